@@ -1,0 +1,242 @@
+// SPDX-FileCopyrightText: 2026 The Keyvora developers
+// SPDX-License-Identifier: MIT
+
+#include "model/ShortcutListModel.h"
+
+#include "platform/ForeignText.h"
+
+#include <algorithm>
+
+namespace keyvora {
+
+namespace {
+
+constexpr qsizetype leaves = -1;
+
+/// A change that would take more steps than this is made in one piece from there on: those rows are far below
+/// what a window shows, and thousands of steps would keep the view busy for longer than a frame.
+constexpr qsizetype maximumSteps = 128;
+
+// What a card can show; imported titles can be any length.
+constexpr qsizetype maximumTitleLength = 200;
+constexpr qsizetype maximumDetailLength = 400;
+
+/// Numbers the rows that share an id.
+class Identities
+{
+public:
+    struct Identity
+    {
+        QString id;
+        int occurrence;
+
+        friend bool operator==(const Identity &, const Identity &) = default;
+        friend size_t qHash(const Identity &identity, size_t seed = 0)
+        {
+            return qHashMulti(seed, identity.id, identity.occurrence);
+        }
+    };
+
+    Identity next(const QString &id) { return {id, m_seen[id]++}; }
+
+private:
+    QHash<QString, int> m_seen;
+};
+
+/// Lets everything behind the first `maximumSteps` interruptions of an otherwise equal order leave.
+void limitSteps(std::vector<qsizetype> &destinations, qsizetype newSize)
+{
+    qsizetype steps = 0;
+    qsizetype last = leaves;
+    bool wasLeaving = false;
+    for (qsizetype &destination : destinations) {
+        const bool isLeaving = destination == leaves;
+        const bool isOutOfOrder = !isLeaving && destination < last;
+        if (isOutOfOrder || (isLeaving && !wasLeaving))
+            ++steps;
+        if (steps > maximumSteps)
+            destination = leaves;
+        else if (!isLeaving)
+            last = std::max(last, destination);
+        wasLeaving = isLeaving;
+    }
+
+    std::vector<bool> stays(static_cast<size_t>(newSize), false);
+    for (const qsizetype destination : destinations) {
+        if (destination != leaves)
+            stays[static_cast<size_t>(destination)] = true;
+    }
+    qsizetype cut = 0;
+    for (steps = 0; cut < newSize; ++cut) {
+        const bool startsInsertion =
+            !stays[static_cast<size_t>(cut)] && (cut == 0 || stays[static_cast<size_t>(cut - 1)]);
+        if (startsInsertion && ++steps > maximumSteps)
+            break;
+    }
+    std::ranges::replace_if(
+        destinations, [cut](qsizetype place) { return place >= cut; }, leaves);
+}
+
+} // namespace
+
+int ShortcutListModel::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
+}
+
+QVariant ShortcutListModel::data(const QModelIndex &index, int role) const
+{
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid))
+        return {};
+    const Shortcut &shortcut = at(index.row());
+    switch (role) {
+    case ShortcutIdRole:
+        return shortcut.id;
+    case TitleRole:
+    case Qt::DisplayRole:
+        return displayableForeignText(shortcut.title, maximumTitleLength);
+    case KeysRole:
+        return shortcut.keys;
+    case CategoryRole:
+        return static_cast<int>(shortcut.category);
+    case HeaderTextRole:
+        return displayableForeignText(headerText(shortcut), maximumTitleLength);
+    case DetailRole:
+        return displayableForeignText(shortcut.detail, maximumDetailLength);
+    case IsFavoriteRole:
+        return m_favorites.contains(shortcut.id);
+    default:
+        return {};
+    }
+}
+
+QHash<int, QByteArray> ShortcutListModel::roleNames() const
+{
+    return {
+        {ShortcutIdRole, "shortcutId"}, {TitleRole, "title"},   {KeysRole, "keys"},
+        {CategoryRole, "category"},     {DetailRole, "detail"}, {HeaderTextRole, "headerText"},
+        {IsFavoriteRole, "isFavorite"},
+    };
+}
+
+void ShortcutListModel::setShortcuts(const QList<Shortcut> &shortcuts)
+{
+    std::vector<qsizetype> places = destinations(shortcuts);
+    limitSteps(places, shortcuts.size());
+    removeLeaving(places);
+    placeAll(std::move(places), shortcuts);
+    replaceChanged(shortcuts);
+}
+
+void ShortcutListModel::setFavorites(const QSet<QString> &ids)
+{
+    const QSet<QString> before = std::exchange(m_favorites, ids);
+    for (int row = 0; row < rowCount(); ++row) {
+        if (before.contains(at(row).id) != ids.contains(at(row).id))
+            emit dataChanged(index(row), index(row), {IsFavoriteRole});
+    }
+}
+
+int ShortcutListModel::rowOf(const QString &shortcutId) const
+{
+    const auto found = std::ranges::find(m_rows, shortcutId, [](const Row &row) { return row->id; });
+    return found == m_rows.end() ? -1 : static_cast<int>(found - m_rows.begin());
+}
+
+void ShortcutListModel::languageChanged()
+{
+    if (!m_rows.empty())
+        emit dataChanged(index(0), index(rowCount() - 1));
+}
+
+std::vector<qsizetype> ShortcutListModel::destinations(const QList<Shortcut> &shortcuts) const
+{
+    QHash<Identities::Identity, qsizetype> places;
+    places.reserve(shortcuts.size());
+    Identities identities;
+    for (qsizetype i = 0; i < shortcuts.size(); ++i)
+        places.insert(identities.next(shortcuts[i].id), i);
+
+    Identities present;
+    std::vector<qsizetype> result;
+    result.reserve(m_rows.size());
+    for (const Row &row : m_rows)
+        result.push_back(places.value(present.next(row->id), leaves));
+    return result;
+}
+
+void ShortcutListModel::removeLeaving(std::vector<qsizetype> &destinations)
+{
+    for (auto end = static_cast<int>(m_rows.size()); end > 0;) {
+        int first = end;
+        while (first > 0 && destinations[static_cast<size_t>(first - 1)] == leaves)
+            --first;
+        if (first == end) {
+            --end;
+            continue;
+        }
+        beginRemoveRows({}, first, end - 1);
+        m_rows.erase(m_rows.begin() + first, m_rows.begin() + end);
+        destinations.erase(destinations.begin() + first, destinations.begin() + end);
+        endRemoveRows();
+        end = first;
+    }
+}
+
+void ShortcutListModel::placeAll(std::vector<qsizetype> destinations, const QList<Shortcut> &shortcuts)
+{
+    std::vector<bool> isPresent(static_cast<size_t>(shortcuts.size()), false);
+    for (const qsizetype destination : destinations)
+        isPresent[static_cast<size_t>(destination)] = true;
+
+    // Rows before `row` are final; those from it on are in their old order.
+    for (int row = 0; row < shortcuts.size(); ++row) {
+        if (isPresent[static_cast<size_t>(row)]) {
+            const auto found = std::find(destinations.begin() + row, destinations.end(), row);
+            const auto from = static_cast<int>(found - destinations.begin());
+            if (from == row)
+                continue;
+            beginMoveRows({}, from, from, {}, row);
+            std::rotate(m_rows.begin() + row, m_rows.begin() + from, m_rows.begin() + from + 1);
+            std::rotate(destinations.begin() + row, found, found + 1);
+            endMoveRows();
+            continue;
+        }
+        int end = row + 1;
+        while (end < shortcuts.size() && !isPresent[static_cast<size_t>(end)])
+            ++end;
+        beginInsertRows({}, row, end - 1);
+        std::vector<Row> inserted;
+        std::vector<qsizetype> places;
+        for (int i = row; i < end; ++i) {
+            inserted.push_back(std::make_shared<const Shortcut>(shortcuts[i]));
+            places.push_back(i);
+        }
+        m_rows.insert(m_rows.begin() + row, inserted.begin(), inserted.end());
+        destinations.insert(destinations.begin() + row, places.begin(), places.end());
+        endInsertRows();
+        row = end - 1;
+    }
+}
+
+void ShortcutListModel::replaceChanged(const QList<Shortcut> &shortcuts)
+{
+    int firstChanged = -1;
+    const auto announceUpTo = [&](int end) {
+        if (firstChanged >= 0)
+            emit dataChanged(index(firstChanged), index(end - 1));
+        firstChanged = -1;
+    };
+    for (int row = 0; row < shortcuts.size(); ++row) {
+        if (at(row) == shortcuts[row]) {
+            announceUpTo(row);
+            continue;
+        }
+        m_rows[static_cast<size_t>(row)] = std::make_shared<const Shortcut>(shortcuts[row]);
+        if (firstChanged < 0)
+            firstChanged = row;
+    }
+    announceUpTo(static_cast<int>(shortcuts.size()));
+}
+
+} // namespace keyvora

@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: 2026 The Keyvora developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QObject>
+#include <QString>
+
+#include <optional>
+
+namespace keyvora {
+
+/// An application that runs on the desktop.
+struct RunningApplication
+{
+    /// The name that the user knows it by, in their language where the desktop tells it; empty when it has
+    /// none.
+    QString name;
+    std::optional<qint32> pid;
+
+    friend bool operator==(const RunningApplication &, const RunningApplication &) = default;
+};
+
+/// The applications of the desktop, seen from outside.
+class Workspace : public QObject
+{
+    Q_OBJECT
+
+public:
+    using QObject::QObject;
+
+    /// The application whose window has the focus; nothing when none has or the desktop does not tell.
+    [[nodiscard]] virtual std::optional<RunningApplication> frontmostApplication() const = 0;
+
+signals:
+    /// Another application came to the front, or the name of the one in front became known. Our own included.
+    void applicationActivated(const keyvora::RunningApplication &application);
+};
+
+} // namespace keyvora
