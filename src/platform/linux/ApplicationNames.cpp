@@ -1,0 +1,99 @@
+// SPDX-FileCopyrightText: 2026 The Keyvora developers
+// SPDX-License-Identifier: MIT
+
+#include "platform/linux/ApplicationNames.h"
+
+#include "platform/ForeignText.h"
+#include "platform/linux/DesktopEntry.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QSet>
+
+#include <limits>
+#include <utility>
+
+namespace keyvora {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int maximumEntries = 20000;
+constexpr qsizetype maximumNameLength = 100;
+constexpr int noMatch = std::numeric_limits<int>::max();
+
+bool isSame(const QString &left, const QString &right)
+{
+    return !left.isEmpty() && left.compare(right, Qt::CaseInsensitive) == 0;
+}
+
+/// How well an entry fits a window: the smaller the better.
+int rank(const DesktopEntry &entry, const QString &id, const WindowIdentity &identity)
+{
+    const QString startupClass = entry.value(u"StartupWMClass"_s);
+    const QString executable = entry.executableName();
+    const bool fits[] = {
+        isSame(startupClass, identity.windowClass),  isSame(startupClass, identity.windowInstance),
+        isSame(id, identity.gtkApplicationId),       isSame(id, identity.windowClass),
+        isSame(id, identity.windowInstance),         isSame(executable, identity.windowClass),
+        isSame(executable, identity.windowInstance),
+    };
+    int place = 0;
+    for (const bool fit : fits) {
+        if (fit)
+            return place;
+        ++place;
+    }
+    return noMatch;
+}
+
+} // namespace
+
+ApplicationNames::ApplicationNames(QStringList dataDirs, QStringList languages)
+    : m_dataDirs(std::move(dataDirs))
+    , m_languages(std::move(languages))
+{
+}
+
+QString ApplicationNames::find(const WindowIdentity &identity) const
+{
+    int bestRank = noMatch;
+    QString bestName;
+    QSet<QString> seenIds;
+    int remaining = maximumEntries;
+    for (const QString &dataDir : m_dataDirs) {
+        const QDir applications(dataDir + u"/applications"_s);
+        QDirIterator files(applications.path(), {u"*.desktop"_s}, QDir::Files, QDirIterator::Subdirectories);
+        while (files.hasNext() && remaining-- > 0) {
+            const QString path = files.next();
+            const QString id = applications.relativeFilePath(path)
+                                   .chopped(QStringView(u".desktop").size())
+                                   .replace(u'/', u'-');
+            if (seenIds.contains(id))
+                continue; // the user's own entry stands for the system's
+            seenIds.insert(id);
+            const auto entry = DesktopEntry::read(path);
+            if (!entry || entry->flag(u"Hidden"_s, false))
+                continue;
+            const int entryRank = rank(*entry, id, identity);
+            if (entryRank >= bestRank)
+                continue;
+            const QString name =
+                displayableForeignText(entry->localizedValue(u"Name"_s, m_languages), maximumNameLength);
+            if (name.isEmpty())
+                continue;
+            bestRank = entryRank;
+            bestName = name;
+        }
+    }
+    return bestName;
+}
+
+QString ApplicationNames::fallback(const WindowIdentity &identity)
+{
+    const QString name = identity.windowClass.isEmpty() ? identity.windowInstance : identity.windowClass;
+    return displayableForeignText(name, maximumNameLength);
+}
+
+} // namespace keyvora

@@ -1,0 +1,85 @@
+// SPDX-FileCopyrightText: 2026 The Keyvora developers
+// SPDX-License-Identifier: MIT
+
+#include "platform/linux/DBusApplication.h"
+
+#include "applicationadaptor.h"
+
+#include <QDBusConnectionInterface>
+#include <QDBusMessage>
+
+namespace keyvora {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const auto serviceName = u"app.keyvora.Keyvora"_s;
+const auto objectPath = u"/app/keyvora/Keyvora"_s;
+const auto interfaceName = u"org.freedesktop.Application"_s;
+
+/// How long a second start waits for the first one to answer before it ends all the same.
+constexpr int activationTimeoutMs = 5000;
+
+QString activationToken(const QVariantMap &platformData)
+{
+    const QString token = platformData.value(u"activation-token"_s).toString();
+    return token.isEmpty() ? platformData.value(u"desktop-startup-id"_s).toString() : token;
+}
+
+} // namespace
+
+DBusApplication::DBusApplication(const QDBusConnection &sessionBus, QObject *parent)
+    : ApplicationInstance(parent)
+    , m_bus(sessionBus)
+{
+    new ApplicationAdaptor(this);
+}
+
+ApplicationInstance::Claim DBusApplication::claim(const QString &activationToken)
+{
+    if (!m_bus.isConnected())
+        return Claim::Alone;
+    // Whoever finds the name taken may call at once, so the object is there before the name.
+    m_bus.registerObject(objectPath, this);
+    const auto reply =
+        m_bus.interface()->registerService(serviceName, QDBusConnectionInterface::DontQueueService);
+    if (!reply.isValid())
+        return Claim::Alone;
+    if (reply.value() == QDBusConnectionInterface::ServiceRegistered)
+        return Claim::First;
+    activateRunning(activationToken);
+    return Claim::HandedOver;
+}
+
+void DBusApplication::activateRunning(const QString &activationToken)
+{
+    QVariantMap platformData;
+    if (!activationToken.isEmpty()) {
+        platformData.insert(u"activation-token"_s, activationToken);
+        platformData.insert(u"desktop-startup-id"_s, activationToken);
+    }
+    QDBusMessage call = QDBusMessage::createMethodCall(serviceName, objectPath, interfaceName, u"Activate"_s);
+    call.setArguments({platformData});
+    // This process has nothing else to do, so it may wait.
+    m_bus.call(call, QDBus::Block, activationTimeoutMs);
+}
+
+void DBusApplication::Activate(const QVariantMap &platformData)
+{
+    emit activated(activationToken(platformData));
+}
+
+void DBusApplication::Open([[maybe_unused]] const QStringList &uris, const QVariantMap &platformData)
+{
+    // The program opens no documents.
+    emit activated(activationToken(platformData));
+}
+
+void DBusApplication::ActivateAction(const QString &action, [[maybe_unused]] const QVariantList &parameters,
+                                     const QVariantMap &platformData)
+{
+    emit actionActivated(action, activationToken(platformData));
+}
+
+} // namespace keyvora

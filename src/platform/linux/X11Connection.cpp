@@ -1,0 +1,150 @@
+// SPDX-FileCopyrightText: 2026 The Keyvora developers
+// SPDX-License-Identifier: MIT
+
+#include "platform/linux/X11Connection.h"
+
+#include <QSocketNotifier>
+
+#include <cstdlib>
+#include <utility>
+#include <xcb/xcbext.h>
+
+namespace keyvora {
+
+namespace {
+
+template <typename Reply>
+using XcbReply = std::unique_ptr<Reply, decltype(&std::free)>;
+
+xcb_window_t rootOfScreen(xcb_connection_t *connection, int screenNumber)
+{
+    xcb_screen_iterator_t screens = xcb_setup_roots_iterator(xcb_get_setup(connection));
+    for (int i = 0; i < screenNumber && screens.rem > 1; ++i)
+        xcb_screen_next(&screens);
+    return screens.data->root;
+}
+
+} // namespace
+
+std::unique_ptr<X11Connection> X11Connection::open()
+{
+    int screenNumber = 0;
+    xcb_connection_t *connection = xcb_connect(nullptr, &screenNumber);
+    if (xcb_connection_has_error(connection) != 0) {
+        xcb_disconnect(connection);
+        return nullptr;
+    }
+    return std::unique_ptr<X11Connection>(new X11Connection(connection, screenNumber));
+}
+
+X11Connection::X11Connection(xcb_connection_t *connection, int screenNumber)
+    : m_connection(connection)
+    , m_screenNumber(screenNumber)
+    , m_root(rootOfScreen(connection, screenNumber))
+    , m_notifier(new QSocketNotifier(xcb_get_file_descriptor(connection), QSocketNotifier::Read, this))
+{
+    connect(m_notifier, &QSocketNotifier::activated, this, &X11Connection::readAvailable);
+}
+
+X11Connection::~X11Connection()
+{
+    xcb_disconnect(m_connection);
+}
+
+xcb_atom_t X11Connection::atom(const QByteArray &name)
+{
+    const auto known = m_atoms.constFind(name);
+    if (known != m_atoms.constEnd())
+        return *known;
+    const auto cookie =
+        xcb_intern_atom(m_connection, 0, static_cast<uint16_t>(name.size()), name.constData());
+    const XcbReply<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(m_connection, cookie, nullptr),
+                                                  &std::free);
+    const xcb_atom_t atom = reply ? reply->atom : static_cast<xcb_atom_t>(XCB_ATOM_NONE);
+    m_atoms.insert(name, atom);
+    return atom;
+}
+
+void X11Connection::selectRootEvents(uint32_t mask)
+{
+    m_rootEvents |= mask;
+    xcb_change_window_attributes(m_connection, m_root, XCB_CW_EVENT_MASK, &m_rootEvents);
+    flush();
+}
+
+void X11Connection::readProperty(xcb_window_t window, const QByteArray &name, uint32_t maximumBytes,
+                                 PropertyHandler handler)
+{
+    constexpr uint32_t bytesPerUnit = 4; // the protocol counts property lengths in 32-bit units
+    const auto cookie = xcb_get_property(m_connection, 0, window, atom(name), XCB_GET_PROPERTY_TYPE_ANY, 0,
+                                         (maximumBytes + bytesPerUnit - 1) / bytesPerUnit);
+    expectReply(cookie.sequence, [handler = std::move(handler)](const void *data) {
+        const auto *reply = static_cast<const xcb_get_property_reply_t *>(data);
+        if (reply == nullptr) {
+            handler({});
+            return;
+        }
+        handler(QByteArray(static_cast<const char *>(xcb_get_property_value(reply)),
+                           xcb_get_property_value_length(reply)));
+    });
+}
+
+void X11Connection::expectReply(unsigned int sequence, ReplyHandler handler)
+{
+    m_pendingReplies.push_back({sequence, std::move(handler)});
+    flush();
+}
+
+void X11Connection::finishPendingReplies()
+{
+    while (!m_pendingReplies.empty()) {
+        const PendingReply pending = std::move(m_pendingReplies.front());
+        m_pendingReplies.pop_front();
+        const XcbReply<void> reply(xcb_wait_for_reply(m_connection, pending.sequence, nullptr), &std::free);
+        pending.handler(reply.get());
+    }
+    // Reading replies may have queued events that the socket no longer announces.
+    QMetaObject::invokeMethod(this, &X11Connection::readAvailable, Qt::QueuedConnection);
+}
+
+void X11Connection::flush()
+{
+    xcb_flush(m_connection);
+}
+
+void X11Connection::readAvailable()
+{
+    if (xcb_connection_has_error(m_connection) != 0) {
+        m_notifier->setEnabled(false);
+        return;
+    }
+    // Reading replies queues events and the other way round, so both go on until neither finds anything.
+    dispatchEvents();
+    dispatchReplies();
+    dispatchEvents();
+}
+
+void X11Connection::dispatchReplies()
+{
+    while (!m_pendingReplies.empty()) {
+        void *data = nullptr;
+        xcb_generic_error_t *failure = nullptr;
+        if (xcb_poll_for_reply(m_connection, m_pendingReplies.front().sequence, &data, &failure) == 0)
+            return;
+        const XcbReply<void> reply(data, &std::free);
+        const XcbReply<xcb_generic_error_t> error(failure, &std::free);
+        const PendingReply pending = std::move(m_pendingReplies.front());
+        m_pendingReplies.pop_front();
+        pending.handler(reply.get());
+    }
+}
+
+void X11Connection::dispatchEvents()
+{
+    while (xcb_generic_event_t *data = xcb_poll_for_event(m_connection)) {
+        const XcbReply<xcb_generic_event_t> event(data, &std::free);
+        emit eventReceived(event.get());
+    }
+}
+
+} // namespace keyvora

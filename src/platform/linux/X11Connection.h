@@ -1,0 +1,85 @@
+// SPDX-FileCopyrightText: 2026 The Keyvora developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QByteArray>
+#include <QHash>
+#include <QObject>
+
+#include <deque>
+#include <functional>
+#include <memory>
+#include <xcb/xcb.h>
+
+class QSocketNotifier;
+
+namespace keyvora {
+
+/// Our own connection to the X server, beside the toolkit's, so that root-window events, grabs and errors are
+/// ours alone. Never blocks after construction: replies arrive by callback, events by signal, both from the
+/// event loop. A server that goes away ends the events silently; the toolkit's own connection ends the
+/// program.
+class X11Connection : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Receives the property's bytes; empty when the window or the property does not exist.
+    using PropertyHandler = std::function<void(const QByteArray &value)>;
+    /// Receives a reply or, when the request failed, null. The reply is freed after the call.
+    using ReplyHandler = std::function<void(const void *reply)>;
+
+    /// Connects to the display of the environment; null where there is none.
+    static std::unique_ptr<X11Connection> open();
+    ~X11Connection() override;
+
+    [[nodiscard]] xcb_connection_t *xcb() const { return m_connection; }
+    [[nodiscard]] xcb_window_t root() const { return m_root; }
+    [[nodiscard]] int screenNumber() const { return m_screenNumber; }
+
+    /// The atom of this name. Asks the server once per name, in one round trip.
+    xcb_atom_t atom(const QByteArray &name);
+
+    /// Adds to the core events that this connection receives for the root window (`XCB_EVENT_MASK_…`).
+    void selectRootEvents(uint32_t mask);
+
+    /// Reads at most `maximumBytes` of a property of any type. The handler is dropped with the connection.
+    void readProperty(xcb_window_t window, const QByteArray &name, uint32_t maximumBytes,
+                      PropertyHandler handler);
+
+    /// Calls the handler once the reply to the request with this sequence number is there.
+    void expectReply(unsigned int sequence, ReplyHandler handler);
+
+    /// Waits for every outstanding reply, and those that their handlers ask for. For start-up only.
+    void finishPendingReplies();
+
+    /// Sends what is buffered; called by the functions above where needed.
+    void flush();
+
+signals:
+    /// One event as it came; valid during the call only.
+    void eventReceived(const xcb_generic_event_t *event);
+
+private:
+    struct PendingReply
+    {
+        unsigned int sequence;
+        ReplyHandler handler;
+    };
+
+    X11Connection(xcb_connection_t *connection, int screenNumber);
+    void readAvailable();
+    void dispatchReplies();
+    void dispatchEvents();
+
+    xcb_connection_t *m_connection;
+    int m_screenNumber;
+    xcb_window_t m_root;
+    uint32_t m_rootEvents = XCB_EVENT_MASK_NO_EVENT;
+    QHash<QByteArray, xcb_atom_t> m_atoms;
+    std::deque<PendingReply> m_pendingReplies;
+    QSocketNotifier *m_notifier;
+};
+
+} // namespace keyvora
