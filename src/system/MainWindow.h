@@ -1,0 +1,27 @@
+// SPDX-FileCopyrightText: 2026 The Keyvora developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QString>
+
+namespace keyvora {
+
+class AppMenu;
+class UserInterfaceLoader;
+
+/// Presents the main window: made at the first show, only hidden when closed.
+class MainWindow
+{
+public:
+    MainWindow(AppMenu &menu, UserInterfaceLoader &userInterface);
+
+    /// Brings the window to the front with a menu in the current language.
+    void show(const QString &activationToken = {});
+
+private:
+    AppMenu &m_menu;
+    UserInterfaceLoader &m_userInterface;
+};
+
+} // namespace keyvora

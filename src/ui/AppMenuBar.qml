@@ -1,0 +1,160 @@
+// SPDX-FileCopyrightText: 2026 The Keyvora developers
+// SPDX-License-Identifier: MIT
+
+import QtQuick
+import QtQuick.Templates as T
+import QtQuick.Window
+import Keyvora
+
+// The main menu. Its texts are in the language in which it was installed.
+Rectangle {
+    id: root
+
+    required property AppMenu appMenu
+
+    readonly property bool czech: root.appMenu.czech
+    readonly property bool isActive: appTitle.menu.visible || editTitle.menu.visible || windowTitle.menu.visible
+    // Where cutting, copying and pasting happens. An open menu has the focus itself, so the place before counts.
+    property TextInput editedText: null
+    readonly property Item focusItem: root.Window.activeFocusItem
+
+    signal aboutRequested
+
+    // Opens one menu and closes the others.
+    function present(title: AppMenuTitle): void {
+        appTitle.menu.close();
+        editTitle.menu.close();
+        windowTitle.menu.close();
+        title.openMenu();
+    }
+
+    implicitHeight: 28
+    color: Theme.sidebarGlass
+    Accessible.role: Accessible.MenuBar
+    onFocusItemChanged: {
+        if (root.focusItem !== null && !root.isActive && !titles.activeFocus)
+            root.editedText = root.focusItem as TextInput;
+    }
+
+    Shortcut {
+        sequence: "F10"
+        onActivated: root.present(appTitle)
+    }
+    Shortcut {
+        sequence: "Ctrl+Q"
+        onActivated: root.appMenu.quitRequested()
+    }
+    Shortcut {
+        sequence: "Ctrl+W"
+        onActivated: root.Window.window.close()
+    }
+    Shortcut {
+        sequence: "Ctrl+M"
+        onActivated: root.Window.window.showMinimized()
+    }
+
+    Rectangle {
+        anchors.bottom: parent.bottom
+        width: parent.width
+        height: Theme.hairlineWidth
+        color: Theme.hairline
+    }
+    FocusScope {
+        id: titles
+        x: 12
+        y: 2
+        width: row.width
+        height: row.height
+
+        Row {
+            id: row
+
+            AppMenuTitle {
+                id: appTitle
+                isBarActive: root.isActive
+                onRequested: root.present(appTitle)
+
+                menu: AppMenuPopup {
+                    title: "Keyvora"
+                    onNextRequested: root.present(editTitle)
+                    onPreviousRequested: root.present(windowTitle)
+
+                    AppMenuItem {
+                        text: root.czech ? "O aplikaci Keyvora" : "About Keyvora"
+                        onTriggered: root.aboutRequested()
+                    }
+                    T.MenuSeparator {
+                        padding: 4
+                        contentItem: Rectangle {
+                            implicitHeight: Theme.hairlineWidth
+                            color: Theme.hairline
+                        }
+                    }
+                    AppMenuItem {
+                        text: root.czech ? "Ukončit Keyvora" : "Quit Keyvora"
+                        keysText: "Ctrl+Q"
+                        onTriggered: root.appMenu.quitRequested()
+                    }
+                }
+            }
+            AppMenuTitle {
+                id: editTitle
+                isBarActive: root.isActive
+                onRequested: root.present(editTitle)
+
+                menu: AppMenuPopup {
+                    title: root.czech ? "Úpravy" : "Edit"
+                    onNextRequested: root.present(windowTitle)
+                    onPreviousRequested: root.present(appTitle)
+
+                    AppMenuItem {
+                        text: root.czech ? "Vyjmout" : "Cut"
+                        keysText: "Ctrl+X"
+                        enabled: root.editedText !== null
+                        onTriggered: root.editedText.cut()
+                    }
+                    AppMenuItem {
+                        text: root.czech ? "Kopírovat" : "Copy"
+                        keysText: "Ctrl+C"
+                        enabled: root.editedText !== null
+                        onTriggered: root.editedText.copy()
+                    }
+                    AppMenuItem {
+                        text: root.czech ? "Vložit" : "Paste"
+                        keysText: "Ctrl+V"
+                        enabled: root.editedText !== null
+                        onTriggered: root.editedText.paste()
+                    }
+                    AppMenuItem {
+                        text: root.czech ? "Vybrat vše" : "Select All"
+                        keysText: "Ctrl+A"
+                        enabled: root.editedText !== null
+                        onTriggered: root.editedText.selectAll()
+                    }
+                }
+            }
+            AppMenuTitle {
+                id: windowTitle
+                isBarActive: root.isActive
+                onRequested: root.present(windowTitle)
+
+                menu: AppMenuPopup {
+                    title: root.czech ? "Okno" : "Window"
+                    onNextRequested: root.present(appTitle)
+                    onPreviousRequested: root.present(editTitle)
+
+                    AppMenuItem {
+                        text: root.czech ? "Zavřít" : "Close"
+                        keysText: "Ctrl+W"
+                        onTriggered: root.Window.window.close()
+                    }
+                    AppMenuItem {
+                        text: root.czech ? "Minimalizovat" : "Minimize"
+                        keysText: "Ctrl+M"
+                        onTriggered: root.Window.window.showMinimized()
+                    }
+                }
+            }
+        }
+    }
+}

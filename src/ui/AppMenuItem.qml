@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: 2026 The Keyvora developers
+// SPDX-License-Identifier: MIT
+
+import QtQuick
+import QtQuick.Templates as T
+
+// One command of a menu, with its keys at the right.
+T.MenuItem {
+    id: root
+
+    // The keys as this keyboard has them, "Ctrl+Q".
+    property string keysText: ""
+
+    implicitWidth: implicitContentWidth
+    implicitHeight: 26
+    width: ListView.view ? ListView.view.width : implicitWidth
+    hoverEnabled: true
+    Accessible.role: Accessible.MenuItem
+    Accessible.name: root.text
+    Accessible.onPressAction: root.triggered()
+
+    contentItem: Item {
+        implicitWidth: (children[0] as PlainLabel).implicitWidth + (children[1] as PlainLabel).implicitWidth + (root.keysText.length > 0 ? 52 : 24)
+        opacity: root.enabled ? 1 : 0.5
+
+        PlainLabel {
+            x: 12
+            width: parent.width - 24
+            height: parent.height
+            text: root.text
+            size: 12
+            color: root.highlighted && root.enabled ? Theme.accentInk : Theme.ink
+        }
+        PlainLabel {
+            anchors.right: parent.right
+            anchors.rightMargin: 12
+            height: parent.height
+            text: root.keysText
+            size: 11
+            color: root.highlighted && root.enabled ? Theme.accentInk : Theme.secondaryInk
+        }
+    }
+    background: Rectangle {
+        radius: 6
+        color: root.highlighted && root.enabled ? Theme.accent : "transparent"
+    }
+}

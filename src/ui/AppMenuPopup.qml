@@ -1,0 +1,50 @@
+// SPDX-FileCopyrightText: 2026 The Keyvora developers
+// SPDX-License-Identifier: MIT
+
+import QtQuick
+import QtQuick.Templates as T
+
+// A menu that drops down.
+T.Menu {
+    id: root
+
+    // The arrow keys that lead to the menu beside this one.
+    signal nextRequested
+    signal previousRequested
+
+    implicitWidth: Math.max(180, contentItem.implicitWidth + leftPadding + rightPadding)
+    implicitHeight: contentItem.implicitHeight + topPadding + bottomPadding
+    padding: 5
+    margins: 4
+    focus: true
+
+    contentItem: ListView {
+        implicitWidth: {
+            let widest = 0;
+            for (let i = 0; i < root.count; ++i)
+                widest = Math.max(widest, root.itemAt(i)?.implicitWidth ?? 0);
+            return widest;
+        }
+        implicitHeight: contentHeight
+        model: root.contentModel
+        interactive: false
+        currentIndex: root.currentIndex
+
+        Shortcut {
+            sequence: "Right"
+            enabled: root.visible
+            onActivated: root.nextRequested()
+        }
+        Shortcut {
+            sequence: "Left"
+            enabled: root.visible
+            onActivated: root.previousRequested()
+        }
+    }
+    background: Rectangle {
+        radius: 10
+        color: Theme.sheet
+        border.width: Theme.hairlineWidth
+        border.color: Theme.hairline
+    }
+}

@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: 2026 The Keyvora developers
+// SPDX-License-Identifier: MIT
+
+import QtQuick
+
+// The base colour under two soft glows.
+Rectangle {
+    id: root
+
+    color: Theme.base
+    clip: true
+
+    Image {
+        readonly property real radius: 280
+
+        x: 250 - radius
+        y: 30 - radius
+        width: 2 * radius
+        height: 2 * radius
+        source: "image://glow/" + Theme.firstGlow
+    }
+
+    Image {
+        readonly property real radius: 320
+
+        x: root.width - 60 - radius
+        y: root.height - 10 - radius
+        width: 2 * radius
+        height: 2 * radius
+        source: "image://glow/" + Theme.secondGlow
+    }
+}

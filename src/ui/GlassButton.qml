@@ -1,0 +1,60 @@
+// SPDX-FileCopyrightText: 2026 The Keyvora developers
+// SPDX-License-Identifier: MIT
+
+import QtQuick
+import QtQuick.Templates as T
+
+// A quiet button on a translucent surface.
+T.Button {
+    id: root
+
+    property string symbol: ""
+    property string trailingSymbol: ""
+
+    implicitWidth: implicitContentWidth + leftPadding + rightPadding
+    implicitHeight: 32
+    leftPadding: 13
+    rightPadding: 13
+    spacing: 8
+    opacity: !root.enabled ? 0.5 : root.down ? 0.7 : 1
+    Accessible.onPressAction: root.clicked()
+
+    contentItem: Row {
+        spacing: root.spacing
+
+        Symbol {
+            anchors.verticalCenter: parent.verticalCenter
+            visible: root.symbol.length > 0
+            name: root.symbol
+        }
+        PlainLabel {
+            height: parent.height
+            text: root.text
+            size: 11
+            font.weight: Theme.mediumWeight
+        }
+        Symbol {
+            anchors.verticalCenter: parent.verticalCenter
+            visible: root.trailingSymbol.length > 0
+            name: root.trailingSymbol
+            size: 14
+        }
+    }
+    background: Rectangle {
+        radius: 10
+        color: Theme.glass
+        border.width: Theme.hairlineWidth
+        border.color: Theme.hairline
+
+        Rectangle {
+            anchors.fill: parent
+            radius: parent.radius
+            color: Theme.hoverFill
+            visible: root.hovered
+        }
+        FocusRing {
+            control: root
+            cornerRadius: 10
+        }
+    }
+}

@@ -1,0 +1,53 @@
+// SPDX-FileCopyrightText: 2026 The Keyvora developers
+// SPDX-License-Identifier: MIT
+
+#include "ui/KeyvoraView.h"
+
+#include <QKeyEvent>
+
+namespace keyvora {
+
+using namespace Qt::Literals::StringLiterals;
+
+KeyvoraView::KeyvoraView(QQmlEngine *engine, QObject *theme)
+    : QQuickView(engine, nullptr)
+    , m_theme(theme)
+{
+    setResizeMode(QQuickView::SizeRootObjectToView);
+}
+
+void KeyvoraView::bringToFront(const QString &activationToken)
+{
+    // Where the toolkit looks for it when a window asks to come to the front.
+    if (!activationToken.isEmpty())
+        qputenv("XDG_ACTIVATION_TOKEN", activationToken.toUtf8());
+    if (windowStates().testFlag(Qt::WindowMinimized))
+        setWindowStates(windowStates() & ~Qt::WindowMinimized);
+    show();
+    raise();
+    requestActivate();
+}
+
+bool KeyvoraView::event(QEvent *event)
+{
+    if (event->type() == QEvent::MouseButtonPress) {
+        m_theme->setProperty("showsFocus", false);
+    } else if (event->type() == QEvent::KeyPress) {
+        switch (static_cast<QKeyEvent *>(event)->key()) {
+        case Qt::Key_Tab:
+        case Qt::Key_Backtab:
+        case Qt::Key_Up:
+        case Qt::Key_Down:
+        case Qt::Key_Left:
+        case Qt::Key_Right:
+        case Qt::Key_F10:
+            m_theme->setProperty("showsFocus", true);
+            break;
+        default:
+            break;
+        }
+    }
+    return QQuickView::event(event);
+}
+
+} // namespace keyvora

@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: 2026 The Keyvora developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QQuickView>
+
+namespace keyvora {
+
+/// A window of ours with QML in it. Tells the theme whether the person is using the keyboard, so that focus
+/// rings show only then.
+class KeyvoraView : public QQuickView
+{
+    Q_OBJECT
+
+public:
+    /// The theme is the QML singleton, which outlives the view.
+    KeyvoraView(QQmlEngine *engine, QObject *theme);
+
+    /// Shows the window above the others and asks for the focus.
+    void bringToFront(const QString &activationToken);
+
+protected:
+    bool event(QEvent *event) override;
+
+private:
+    QObject *m_theme;
+};
+
+} // namespace keyvora

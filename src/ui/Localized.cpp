@@ -1,0 +1,53 @@
+// SPDX-FileCopyrightText: 2026 The Keyvora developers
+// SPDX-License-Identifier: MIT
+
+#include "ui/Localized.h"
+
+#include "model/KeyCapLabel.h"
+#include "model/KeySteps.h"
+#include "model/Localization.h"
+#include "ui/CategorySymbols.h"
+
+namespace keyvora {
+
+Localized::Localized(QObject *parent)
+    : QObject(parent)
+{
+    connect(&Localization::shared(), &Localization::languageChanged, this, &Localized::languageChanged);
+}
+
+bool Localized::isCzech() const
+{
+    return Localization::shared().language() == AppLanguage::Czech;
+}
+
+void Localized::setCzech(bool czech)
+{
+    Localization::shared().setLanguage(czech ? AppLanguage::Czech : AppLanguage::English);
+}
+
+QString Localized::keyCapLabel(const QString &token, [[maybe_unused]] bool czech) const
+{
+    return keyvora::keyCapLabel(token);
+}
+
+QString Localized::spokenKeys(const QStringList &tokens, [[maybe_unused]] bool czech) const
+{
+    QStringList words;
+    for (const QString &token : tokens)
+        words.append(spokenKeyName(token));
+    return words.join(u' ');
+}
+
+bool Localized::isStepSeparator(const QStringList &tokens, int index) const
+{
+    return keyvora::isStepSeparator(tokens, index);
+}
+
+QString Localized::categorySymbol(int category) const
+{
+    const auto position = static_cast<size_t>(category);
+    return position < allCategories.size() ? keyvora::categorySymbol(allCategories[position]) : QString();
+}
+
+} // namespace keyvora

@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: 2026 The Keyvora developers
+// SPDX-License-Identifier: MIT
+
+import QtQuick
+import Keyvora
+
+// Narrows the shown shortcuts to those that use certain modifier keys.
+Row {
+    id: root
+
+    required property AppModel appModel
+
+    height: 30
+    spacing: 8
+
+    PlainLabel {
+        height: parent.height
+        rightPadding: 4
+        text: Localized.czech ? "Obsahuje" : "Contains"
+        size: 12
+        color: Theme.secondaryInk
+    }
+    ModifierPill {
+        token: "⌘"
+        appModel: root.appModel
+    }
+    ModifierPill {
+        token: "⌥"
+        appModel: root.appModel
+    }
+    ModifierPill {
+        token: "⇧"
+        appModel: root.appModel
+    }
+    ModifierPill {
+        token: "⌃"
+        appModel: root.appModel
+    }
+    ModifierPill {
+        token: "Fn"
+        appModel: root.appModel
+    }
+    GlassButton {
+        height: 30
+        visible: root.appModel.modifierTokens.length > 0
+        text: Localized.czech ? "Zrušit filtry" : "Clear Filters"
+        onClicked: root.appModel.clearModifiers()
+    }
+}

@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: 2026 The Keyvora developers
+// SPDX-License-Identifier: MIT
+
+import QtQuick
+import QtQuick.Templates as T
+import Keyvora
+
+// Switches the filter for one modifier key.
+T.AbstractButton {
+    id: root
+
+    required property string token
+    required property AppModel appModel
+
+    implicitWidth: Math.max(42, implicitContentWidth + 20)
+    implicitHeight: 30
+    checked: Array.from(root.appModel.modifierTokens).includes(root.token)
+    opacity: root.down ? 0.7 : 1
+    onClicked: root.appModel.toggleModifierToken(root.token)
+    Accessible.role: Accessible.CheckBox
+    Accessible.name: root.token + " " + Localized.spokenKeys([root.token], Localized.czech)
+    Accessible.checkable: true
+    Accessible.checked: root.checked
+    Accessible.onPressAction: root.clicked()
+    Accessible.onToggleAction: root.clicked()
+
+    contentItem: PlainLabel {
+        text: root.token
+        size: 15
+        color: root.checked ? Theme.accentInk : Theme.ink
+        font.weight: Theme.mediumWeight
+        horizontalAlignment: Text.AlignHCenter
+    }
+    background: Rectangle {
+        radius: 9
+        color: root.checked ? Theme.accent : Theme.glass
+        border.width: root.checked ? 0 : Theme.hairlineWidth
+        border.color: Theme.hairline
+
+        Rectangle {
+            anchors.fill: parent
+            radius: parent.radius
+            color: Theme.hoverFill
+            visible: root.hovered && !root.checked
+        }
+        FocusRing {
+            control: root
+            cornerRadius: 9
+        }
+    }
+}

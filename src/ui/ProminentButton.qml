@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: 2026 The Keyvora developers
+// SPDX-License-Identifier: MIT
+
+import QtQuick
+import QtQuick.Templates as T
+
+// The button of the action that most people want.
+T.Button {
+    id: root
+
+    property string symbol: ""
+
+    implicitWidth: implicitContentWidth + leftPadding + rightPadding
+    implicitHeight: 32
+    leftPadding: 14
+    rightPadding: 14
+    opacity: !root.enabled ? 0.5 : root.down ? 0.7 : 1
+    Accessible.onPressAction: root.clicked()
+
+    contentItem: Item {
+        implicitWidth: childrenRect.width
+
+        Row {
+            anchors.centerIn: parent
+            height: parent.height
+            spacing: 8
+
+            Symbol {
+                anchors.verticalCenter: parent.verticalCenter
+                visible: root.symbol.length > 0
+                name: root.symbol
+                color: Theme.accentInk
+            }
+            PlainLabel {
+                height: parent.height
+                text: root.text
+                size: 12
+                color: Theme.accentInk
+                font.weight: Theme.strongWeight
+            }
+        }
+    }
+    background: Rectangle {
+        radius: 8
+        color: root.hovered ? Qt.lighter(Theme.accent, 1.06) : Theme.accent
+
+        FocusRing {
+            control: root
+        }
+    }
+}

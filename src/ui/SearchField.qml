@@ -1,0 +1,101 @@
+// SPDX-FileCopyrightText: 2026 The Keyvora developers
+// SPDX-License-Identifier: MIT
+
+import QtQuick
+import QtQuick.Templates as T
+import Keyvora
+
+// Searches as the person types. Escape empties it.
+T.TextField {
+    id: root
+
+    required property AppModel appModel
+
+    implicitWidth: 169
+    implicitHeight: 32
+    leftPadding: 33
+    rightPadding: 30
+    text: root.appModel.search
+    placeholderText: Localized.czech ? "Hledat" : "Search"
+    placeholderTextColor: Theme.tertiaryInk
+    color: Theme.ink
+    selectionColor: Theme.accent
+    selectedTextColor: Theme.accentInk
+    font.pointSize: Theme.points(12.5)
+    maximumLength: 200
+    selectByMouse: true
+    verticalAlignment: TextInput.AlignVCenter
+    Accessible.role: Accessible.EditableText
+    Accessible.name: root.placeholderText
+    onTextChanged: root.appModel.search = root.text
+    Keys.onEscapePressed: event => {
+        event.accepted = root.text.length > 0;
+        root.clear();
+    }
+
+    Connections {
+        target: root.appModel
+
+        function onSearchChanged(): void {
+            if (root.text !== root.appModel.search)
+                root.text = root.appModel.search;
+        }
+    }
+
+    background: Rectangle {
+        radius: 10
+        color: Theme.glass
+        border.width: root.activeFocus ? 2 : Theme.hairlineWidth
+        border.color: root.activeFocus ? Theme.accent : Theme.hairline
+
+        Symbol {
+            x: 11
+            anchors.verticalCenter: parent.verticalCenter
+            name: "search"
+            size: 14
+            color: Theme.secondaryInk
+        }
+        PlainLabel {
+            x: root.leftPadding
+            width: root.width - root.leftPadding - root.rightPadding
+            height: parent.height
+            visible: root.text.length === 0 && root.preeditText.length === 0
+            text: root.placeholderText
+            size: 12.5
+            color: Theme.tertiaryInk
+        }
+    }
+
+    T.AbstractButton {
+        id: clearButton
+
+        anchors.right: parent.right
+        anchors.rightMargin: 4
+        anchors.verticalCenter: parent.verticalCenter
+        width: 24
+        height: 24
+        visible: root.text.length > 0
+        opacity: clearButton.down ? 0.7 : 1
+        Accessible.role: Accessible.Button
+        Accessible.name: Localized.czech ? "Vymazat hledání" : "Clear search"
+        Accessible.onPressAction: clearButton.clicked()
+        onClicked: {
+            root.clear();
+            root.forceActiveFocus(Qt.OtherFocusReason);
+        }
+
+        contentItem: Item {
+            Symbol {
+                anchors.centerIn: parent
+                name: "cancel-fill"
+                size: 15
+                color: clearButton.hovered ? Theme.ink : Theme.secondaryInk
+            }
+        }
+        background: FocusRing {
+            control: clearButton
+            cornerRadius: 10
+            gap: -1
+        }
+    }
+}

@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: 2026 The Keyvora developers
+// SPDX-License-Identifier: MIT
+
+import QtQuick
+
+// A titled group of settings.
+Rectangle {
+    id: root
+
+    property string title: ""
+    default property alias content: column.data
+
+    implicitHeight: column.implicitHeight + 26
+    radius: 12
+    color: Theme.card
+    border.width: Theme.hairlineWidth
+    border.color: Theme.hairline
+
+    Column {
+        id: column
+        x: 14
+        y: 13
+        width: root.width - 28
+        spacing: 10
+
+        PlainLabel {
+            text: root.title
+            size: 12.5
+            font.weight: Theme.strongWeight
+            Accessible.role: Accessible.Heading
+            Accessible.name: text
+        }
+    }
+}

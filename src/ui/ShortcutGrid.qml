@@ -1,0 +1,93 @@
+// SPDX-FileCopyrightText: 2026 The Keyvora developers
+// SPDX-License-Identifier: MIT
+
+import QtQuick
+import QtQuick.Templates as T
+import Keyvora
+
+// Shortcuts as cards, in as many columns of at least 250 points as fit.
+GridView {
+    id: root
+
+    required property AppModel appModel
+
+    readonly property int spacing: 14
+    readonly property int padding: 22
+    readonly property int minimumColumnWidth: 250
+    readonly property int cardHeight: 145
+    readonly property int columns: Math.max(1, Math.floor((root.width - 2 * root.padding + root.spacing) / (root.minimumColumnWidth + root.spacing)))
+
+    // The spacing right of the last column and below the last row is part of their cells.
+    leftMargin: root.padding
+    rightMargin: root.padding - root.spacing
+    topMargin: 4
+    bottomMargin: root.padding - root.spacing
+    cellWidth: Math.floor((root.width - 2 * root.padding + root.spacing) / root.columns)
+    cellHeight: root.cardHeight + root.spacing
+    clip: true
+    boundsBehavior: Flickable.StopAtBounds
+    activeFocusOnTab: true
+    keyNavigationEnabled: true
+    // Cards made ahead of time would be made in vain at the next keystroke in the search field.
+    cacheBuffer: 0
+
+    Accessible.role: Accessible.List
+    Accessible.name: Localized.czech ? "Zkratky" : "Shortcuts"
+
+    Keys.onPressed: event => {
+        const page = Math.max(1, Math.floor(root.height / root.cellHeight)) * root.columns;
+        switch (event.key) {
+        case Qt.Key_Home:
+            root.currentIndex = 0;
+            break;
+        case Qt.Key_End:
+            root.currentIndex = root.count - 1;
+            break;
+        case Qt.Key_PageUp:
+            root.currentIndex = Math.max(0, root.currentIndex - page);
+            break;
+        case Qt.Key_PageDown:
+            root.currentIndex = Math.min(root.count - 1, root.currentIndex + page);
+            break;
+        default:
+            return;
+        }
+        event.accepted = true;
+    }
+
+    T.ScrollBar.vertical: SlimScrollBar {}
+
+    // Qt 6.4 gives the linter no way to know that a delegate belongs to the component around it.
+    // qmllint disable unqualified
+    delegate: FocusScope {
+        id: cell
+
+        required property int index
+        required property string shortcutId
+        required property string title
+        required property string detail
+        required property string headerText
+        required property int category
+        required property list<string> keys
+        required property bool isFavorite
+
+        width: root.cellWidth
+        height: root.cellHeight
+
+        ShortcutCard {
+            width: root.cellWidth - root.spacing
+            height: root.cardHeight
+            focus: true
+            shortcutId: cell.shortcutId
+            title: cell.title
+            detail: cell.detail
+            headerText: cell.headerText
+            category: cell.category
+            keys: cell.keys
+            isFavorite: cell.isFavorite
+            onPressed: root.currentIndex = cell.index
+            onFavoriteToggled: shortcutId => root.appModel.toggleFavorite(shortcutId)
+        }
+    }
+    // qmllint enable unqualified
+}

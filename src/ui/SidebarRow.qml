@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: 2026 The Keyvora developers
+// SPDX-License-Identifier: MIT
+
+import QtQuick
+import QtQuick.Templates as T
+
+// One row of the sidebar.
+T.AbstractButton {
+    id: root
+
+    required property string symbol
+    property bool selected: false
+
+    implicitHeight: 30
+    focusPolicy: Qt.NoFocus
+    opacity: root.down ? 0.7 : 1
+    Accessible.onPressAction: root.clicked()
+
+    contentItem: Item {
+        Item {
+            x: 8
+            width: 19
+            height: parent.height
+
+            Symbol {
+                anchors.centerIn: parent
+                name: root.symbol
+                size: 15
+                color: root.selected ? Theme.accent : Theme.secondaryInk
+            }
+        }
+        PlainLabel {
+            x: 35
+            width: parent.width - x - 8
+            height: parent.height
+            text: root.text
+            size: 12.5
+            color: root.selected ? Theme.accent : Theme.ink
+            font.weight: root.selected ? Theme.strongWeight : Theme.regularWeight
+        }
+    }
+    background: Rectangle {
+        radius: 8
+        color: root.selected ? Theme.softAccent : root.hovered ? Theme.hoverFill : "transparent"
+
+        FocusRing {
+            control: root
+            gap: -1
+        }
+    }
+}

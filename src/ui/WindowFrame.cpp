@@ -1,0 +1,103 @@
+// SPDX-FileCopyrightText: 2026 The Keyvora developers
+// SPDX-License-Identifier: MIT
+
+#include "ui/WindowFrame.h"
+
+#include "model/Defaults.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+#include <QWindow>
+
+#include <algorithm>
+#include <chrono>
+#include <optional>
+
+namespace keyvora {
+
+using namespace Qt::Literals::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr auto saveDelay = 400ms;
+/// How much of a window's top must be on a screen so that a person can take hold of it.
+constexpr QSize graspable(120, 24);
+
+std::optional<QRect> parsedFrame(const QString &text)
+{
+    const QStringList parts = text.split(u' ');
+    if (parts.size() != 4)
+        return std::nullopt;
+    std::array<int, 4> numbers{};
+    for (qsizetype i = 0; i < parts.size(); ++i) {
+        bool isNumber = false;
+        numbers[static_cast<size_t>(i)] = parts[i].toInt(&isNumber);
+        constexpr int farAway = 100'000;
+        if (!isNumber || std::abs(numbers[static_cast<size_t>(i)]) > farAway)
+            return std::nullopt;
+    }
+    return QRect(numbers[0], numbers[1], numbers[2], numbers[3]);
+}
+
+bool canBeGrasped(const QRect &frame)
+{
+    const QRect titleBar(frame.topLeft(), QSize(frame.width(), graspable.height()));
+    return std::ranges::any_of(QGuiApplication::screens(), [&](const QScreen *screen) {
+        const QRect shown = screen->availableGeometry() & titleBar;
+        return shown.width() >= graspable.width() && shown.height() >= graspable.height() / 2;
+    });
+}
+
+} // namespace
+
+WindowFrame::WindowFrame(QWindow &window, Defaults &store, QLatin1StringView name)
+    : m_window(window)
+    , m_store(store)
+    , m_name(name)
+{
+    m_saveTimer.setSingleShot(true);
+    m_saveTimer.setInterval(saveDelay);
+    connect(&m_saveTimer, &QTimer::timeout, this, &WindowFrame::save);
+    const auto saveSoon = [this] {
+        if (m_window.isVisible())
+            m_saveTimer.start();
+    };
+    connect(&window, &QWindow::xChanged, this, saveSoon);
+    connect(&window, &QWindow::yChanged, this, saveSoon);
+    connect(&window, &QWindow::widthChanged, this, saveSoon);
+    connect(&window, &QWindow::heightChanged, this, saveSoon);
+    connect(&window, &QWindow::visibleChanged, this, [this](bool isVisible) {
+        if (!isVisible && m_saveTimer.isActive())
+            save();
+    });
+}
+
+void WindowFrame::restore(QSize initialSize)
+{
+    const auto stored = parsedFrame(m_store.text(m_name).value_or(QString()));
+    const QSize minimum = m_window.minimumSize();
+    if (stored && canBeGrasped(*stored)) {
+        m_window.setFramePosition(stored->topLeft());
+        m_window.resize(stored->size().expandedTo(minimum));
+        return;
+    }
+    QRect frame(QPoint(), initialSize.expandedTo(minimum));
+    frame.moveCenter(QGuiApplication::primaryScreen()->availableGeometry().center());
+    m_window.setFramePosition(frame.topLeft());
+    m_window.resize(frame.size());
+}
+
+void WindowFrame::save()
+{
+    m_saveTimer.stop();
+    // A maximised or full-screen window comes back at its ordinary place.
+    if (m_window.windowStates() != Qt::WindowNoState)
+        return;
+    const QPoint position = m_window.framePosition();
+    m_store.setText(
+        m_name,
+        u"%1 %2 %3 %4"_s.arg(position.x()).arg(position.y()).arg(m_window.width()).arg(m_window.height()));
+}
+
+} // namespace keyvora

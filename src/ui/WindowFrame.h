@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: 2026 The Keyvora developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QLatin1StringView>
+#include <QRect>
+#include <QTimer>
+
+class QWindow;
+
+namespace keyvora {
+
+class Defaults;
+
+/// Remembers where a window was. The frame is written a moment after the last change, and at once when the
+/// window is hidden.
+class WindowFrame : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// `name` is the key in the store, which outlives the frame.
+    WindowFrame(QWindow &window, Defaults &store, QLatin1StringView name);
+
+    /// Puts the window where it was or, when nothing usable is stored, in the middle of the main screen with
+    /// the given size. Never smaller than the window's minimum, never where no screen shows its title.
+    void restore(QSize initialSize);
+
+private:
+    void save();
+
+    QWindow &m_window;
+    Defaults &m_store;
+    QLatin1StringView m_name;
+    QTimer m_saveTimer;
+};
+
+} // namespace keyvora
