@@ -4,9 +4,10 @@
 #include "ui/ImageProviders.h"
 
 #include <QPainter>
-#include <QRadialGradient>
+#include <QRandomGenerator>
 #include <QSvgRenderer>
 
+#include <algorithm>
 #include <cmath>
 #include <vector>
 
@@ -84,21 +85,20 @@ QImage GlowImageProvider::requestImage(const QString &id, QSize *size, const QSi
     constexpr int defaultSize = 560;
     QImage image = transparentImage(sizeOr(requestedSize, defaultSize));
     const QColor color(id);
-    const auto withShare = [color](qreal share) {
-        QColor result = color;
-        result.setAlphaF(static_cast<float>(color.alphaF() * share));
-        return result;
-    };
-    const QRectF area = image.rect();
-    QRadialGradient gradient(area.center(), area.width() / 2);
-    // Falls like a cosine, so that no edge shows where it ends.
-    constexpr int stops = 12;
-    for (int i = 0; i <= stops; ++i) {
-        const qreal distance = static_cast<qreal>(i) / stops;
-        gradient.setColorAt(distance, withShare((1 + std::cos(M_PI * distance)) / 2));
+    const QPointF center = QRectF(image.rect()).center();
+    const qreal radius = center.x();
+    QRandomGenerator noise(1);
+    for (int y = 0; y < image.height(); ++y) {
+        auto *line = reinterpret_cast<QRgb *>(image.scanLine(y));
+        for (int x = 0; x < image.width(); ++x) {
+            const qreal distance = std::min(1.0, std::hypot(x - center.x(), y - center.y()) / radius);
+            // Falls like a cosine, so that no edge shows where it ends; the noise breaks up the steps between the
+            // few levels that so faint a colour has.
+            const qreal alpha = 255 * color.alphaF() * (1 + std::cos(M_PI * distance)) / 2;
+            const int level = static_cast<int>(alpha + noise.generateDouble());
+            line[x] = qPremultiply(qRgba(color.red(), color.green(), color.blue(), level));
+        }
     }
-    QPainter painter(&image);
-    painter.fillRect(area, gradient);
     *size = image.size();
     return image;
 }

@@ -3,9 +3,9 @@
 
 #include "platform/linux/PortalAppearance.h"
 
-#include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
+#include <QDBusVariant>
 #include <QEvent>
 #include <QGuiApplication>
 #include <QPalette>
@@ -44,8 +44,9 @@ PortalAppearance::PortalAppearance(const QDBusConnection &sessionBus, QObject *p
     : Appearance(parent)
     , m_bus(sessionBus)
 {
-    m_bus.connect(service, path, interface, u"SettingChanged"_s, this,
-                  SLOT(settingChanged(QString, QString, QDBusVariant)));
+    // Without a service name, which the toolkit would look up in a call that waits.
+    m_bus.connect(QString(), path, interface, u"SettingChanged"_s, this,
+                  SLOT(settingAnnounced(QDBusMessage)));
     read(appearanceGroup, u"color-scheme"_s);
     read(appearanceGroup, u"contrast"_s);
     read(accessibilityGroup, u"high-contrast"_s);
@@ -69,14 +70,20 @@ void PortalAppearance::read(const QString &group, const QString &key)
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, group, key, watcher] {
         const QDBusPendingReply<QDBusVariant> reply = *watcher;
         if (reply.isValid())
-            settingChanged(group, key, reply.value());
+            settingChanged(group, key, QVariant::fromValue(reply.value()));
         watcher->deleteLater();
     });
 }
 
-void PortalAppearance::settingChanged(const QString &group, const QString &key, const QDBusVariant &value)
+void PortalAppearance::settingAnnounced(const QDBusMessage &message)
 {
-    const QVariant setting = unwrapped(QVariant::fromValue(value));
+    const QVariantList arguments = message.arguments();
+    settingChanged(arguments.value(0).toString(), arguments.value(1).toString(), arguments.value(2));
+}
+
+void PortalAppearance::settingChanged(const QString &group, const QString &key, const QVariant &value)
+{
+    const QVariant setting = unwrapped(value);
     if (group == appearanceGroup && key == "color-scheme"_L1) {
         // 0 is no preference, 1 is dark, 2 is light; numbers still to come mean no preference, too.
         const uint scheme = setting.toUInt();

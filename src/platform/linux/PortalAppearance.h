@@ -6,7 +6,7 @@
 #include "platform/Appearance.h"
 
 #include <QDBusConnection>
-#include <QDBusVariant>
+#include <QDBusMessage>
 
 #include <optional>
 
@@ -28,9 +28,10 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private slots:
-    void settingChanged(const QString &group, const QString &key, const QDBusVariant &value);
+    void settingAnnounced(const QDBusMessage &message);
 
 private:
+    void settingChanged(const QString &group, const QString &key, const QVariant &value);
     void read(const QString &group, const QString &key);
     void update();
 
