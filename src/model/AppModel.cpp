@@ -28,8 +28,11 @@ AppModel::AppModel(Dependencies dependencies, QObject *parent)
         m_services.makeUuid = [] {
             return QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper();
         };
-    if (const auto application = m_services.workspace.frontmostApplication())
+    if (const auto application = m_services.workspace.frontmostApplication()) {
+        if (application->name.isEmpty())
+            m_activeAppPID = application->pid;
         applicationActivated(*application);
+    }
     restore();
     connect(&m_services.workspace, &Workspace::applicationActivated, this, &AppModel::applicationActivated);
     if (m_services.makeSmartObserver) {

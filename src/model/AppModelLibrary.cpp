@@ -112,10 +112,16 @@ ShortcutListModel *AppModel::contextualModel()
         m_contextualModel->setShortcuts(contextual());
     };
     update();
+    m_contextualModel->setFavorites(m_favorites);
     connect(this, &AppModel::activeAppChanged, m_contextualModel, update);
     connect(this, &AppModel::usageCountsChanged, m_contextualModel, update);
     connect(this, &AppModel::customShortcutsChanged, m_contextualModel, update);
-    connect(&Localization::shared(), &Localization::languageChanged, m_contextualModel, update);
+    connect(this, &AppModel::favoritesChanged, m_contextualModel,
+            [this] { m_contextualModel->setFavorites(m_favorites); });
+    connect(&Localization::shared(), &Localization::languageChanged, m_contextualModel, [this, update] {
+        update();
+        m_contextualModel->languageChanged();
+    });
     return m_contextualModel;
 }
 

@@ -179,7 +179,8 @@ bool Defaults::setAside(const Clock &clock) const
 
 void Defaults::removeLeftovers() const
 {
-    static const QRegularExpression temporarySuffix(u"\\A\\.[A-Za-z]{6}\\z"_s);
+    // Six letters that could be a word ("backup", "Before") may name a copy that the user made.
+    static const QRegularExpression temporarySuffix(u"\\A\\.(?=.*[a-z])[A-Za-z]+[A-Z][A-Za-z]*\\z"_s);
     const QFileInfo info(m_filePath);
     QDir folder = info.dir();
     for (const QString &name : folder.entryList({info.fileName() + u".??????"_s}, QDir::Files)) {

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 import QtQuick
+import QtQuick.Window
 import Keyvora
 
 // What the main window shows: menu, sidebar, top bar, and the page of the selected section.
@@ -16,12 +17,19 @@ FocusScope {
     readonly property int minimumWidth: 980
     readonly property int minimumHeight: 650 + menuBar.implicitHeight
 
-    focus: true
-    // Sheets need a window, which comes after the content.
-    onWindowChanged: window => {
-        if (window !== null && root.isFirstTime)
-            sheet.present("OnboardingView");
+    property bool hasGreeted: false
+
+    function greet(): void {
+        if (!root.isFirstTime || root.hasGreeted || root.Window.window === null)
+            return;
+        root.hasGreeted = true;
+        sheet.present("OnboardingView");
     }
+
+    focus: true
+    // Sheets need a window, which may come after the content.
+    onWindowChanged: root.greet()
+    Component.onCompleted: root.greet()
 
     Shortcut {
         sequence: "Ctrl+F"

@@ -29,30 +29,58 @@ QSize sizeOr(const QSize &requested, int fallback)
     return requested.width() > 0 && requested.height() > 0 ? requested : QSize(fallback, fallback);
 }
 
-/// One pass of a box blur over every line of a coverage map.
-void boxBlur(std::vector<float> &values, int width, int height, int radius)
+/// How much of each pixel of a square is covered, from 0 to 1.
+class CoverageMap
 {
-    std::vector<float> line(static_cast<size_t>(width));
-    const float weight = 1.0F / static_cast<float>(2 * radius + 1);
-    for (int y = 0; y < height; ++y) {
-        float *row = values.data() + static_cast<ptrdiff_t>(y) * width;
-        for (int x = 0; x < width; ++x) {
-            float sum = 0;
-            for (int i = std::max(0, x - radius); i <= std::min(width - 1, x + radius); ++i)
-                sum += row[i];
-            line[static_cast<size_t>(x)] = sum * weight;
-        }
-        std::copy(line.begin(), line.end(), row);
+public:
+    explicit CoverageMap(int side)
+        : m_side(static_cast<size_t>(side))
+        , m_values(m_side * m_side)
+    {
     }
-}
 
-void transpose(std::vector<float> &values, int size)
-{
-    for (int y = 0; y < size; ++y) {
-        for (int x = 0; x < y; ++x)
-            std::swap(values[static_cast<size_t>(y * size + x)], values[static_cast<size_t>(x * size + y)]);
+    [[nodiscard]] float &at(int x, int y)
+    {
+        return m_values[static_cast<size_t>(y) * m_side + static_cast<size_t>(x)];
     }
-}
+
+    /// Spreads every value evenly over the square of this radius around it.
+    void boxBlur(int radius)
+    {
+        for (int pass = 0; pass < 2; ++pass) {
+            blurLines(radius);
+            transpose();
+        }
+    }
+
+private:
+    void blurLines(int radius)
+    {
+        const int side = static_cast<int>(m_side);
+        const float weight = 1.0F / static_cast<float>(2 * radius + 1);
+        std::vector<float> line(m_side);
+        for (int y = 0; y < side; ++y) {
+            for (int x = 0; x < side; ++x) {
+                float sum = 0;
+                for (int i = std::max(0, x - radius); i <= std::min(side - 1, x + radius); ++i)
+                    sum += at(i, y);
+                line[static_cast<size_t>(x)] = sum * weight;
+            }
+            std::ranges::copy(line, &at(0, y));
+        }
+    }
+
+    void transpose()
+    {
+        for (int y = 0; y < static_cast<int>(m_side); ++y) {
+            for (int x = 0; x < y; ++x)
+                std::swap(at(x, y), at(y, x));
+        }
+    }
+
+    size_t m_side;
+    std::vector<float> m_values;
+};
 
 } // namespace
 
@@ -92,8 +120,8 @@ QImage GlowImageProvider::requestImage(const QString &id, QSize *size, const QSi
         auto *line = reinterpret_cast<QRgb *>(image.scanLine(y));
         for (int x = 0; x < image.width(); ++x) {
             const qreal distance = std::min(1.0, std::hypot(x - center.x(), y - center.y()) / radius);
-            // Falls like a cosine, so that no edge shows where it ends; the noise breaks up the steps between the
-            // few levels that so faint a colour has.
+            // Falls like a cosine, so that no edge shows where it ends; the noise breaks up the steps between
+            // the few levels that so faint a colour has.
             const qreal alpha = 255 * color.alphaF() * (1 + std::cos(M_PI * distance)) / 2;
             const int level = static_cast<int>(alpha + noise.generateDouble());
             line[x] = qPremultiply(qRgba(color.red(), color.green(), color.blue(), level));
@@ -128,26 +156,19 @@ QImage ShadowImageProvider::requestImage(const QString &id, QSize *size, const Q
         painter.drawRoundedRect(QRectF(blur, blur, side - 2 * blur, side - 2 * blur), corner, corner);
     }
 
-    std::vector<float> coverage(static_cast<size_t>(side) * static_cast<size_t>(side));
+    CoverageMap coverage(side);
     for (int y = 0; y < side; ++y) {
         for (int x = 0; x < side; ++x)
-            coverage[static_cast<size_t>(y * side + x)] =
-                static_cast<float>(shape.constScanLine(y)[x]) / 255.0F;
+            coverage.at(x, y) = static_cast<float>(shape.constScanLine(y)[x]) / 255.0F;
     }
-    const int radius = std::max(1, blur / blurPasses);
-    for (int pass = 0; pass < blurPasses; ++pass) {
-        boxBlur(coverage, side, side, radius);
-        transpose(coverage, side);
-        boxBlur(coverage, side, side, radius);
-        transpose(coverage, side);
-    }
+    for (int pass = 0; pass < blurPasses; ++pass)
+        coverage.boxBlur(std::max(1, blur / blurPasses));
 
     QImage image = transparentImage({side, side});
     for (int y = 0; y < side; ++y) {
         auto *line = reinterpret_cast<QRgb *>(image.scanLine(y));
         for (int x = 0; x < side; ++x) {
-            const float alpha =
-                coverage[static_cast<size_t>(y * side + x)] * static_cast<float>(percent) * 2.55F;
+            const float alpha = coverage.at(x, y) * static_cast<float>(percent) * 2.55F;
             line[x] = qRgba(0, 0, 0, static_cast<int>(std::lround(alpha)));
         }
     }

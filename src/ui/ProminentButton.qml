@@ -18,7 +18,7 @@ T.Button {
     Accessible.onPressAction: root.clicked()
 
     contentItem: Item {
-        implicitWidth: childrenRect.width
+        implicitWidth: (children[0] as Row).implicitWidth
 
         Row {
             anchors.centerIn: parent

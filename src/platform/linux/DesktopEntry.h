@@ -18,7 +18,7 @@ class DesktopEntry
 {
 public:
     /// A file larger than this is no desktop entry.
-    static constexpr qint64 maximumFileBytes = 1024 * 1024;
+    static constexpr qint64 maximumFileBytes = 1024LL * 1024;
 
     /// Reads the group; nothing when the text has none.
     static std::optional<DesktopEntry> parse(const QByteArray &text);

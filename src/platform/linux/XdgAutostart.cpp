@@ -32,9 +32,9 @@ bool starts(const QString &entryPath)
 
 } // namespace
 
-XdgAutostart::XdgAutostart(QString configHome, QStringList configDirs, QString executable)
-    : m_entryPath(std::move(configHome) + u'/' + entryName)
-    , m_systemEntryPaths(std::move(configDirs))
+XdgAutostart::XdgAutostart(const QString &configHome, const QStringList &configDirs, QString executable)
+    : m_entryPath(configHome + u'/' + entryName)
+    , m_systemEntryPaths(configDirs)
     , m_executable(std::move(executable))
 {
     for (QString &path : m_systemEntryPaths)

@@ -17,7 +17,7 @@ class XdgAutostart : public LoginItem
 public:
     /// `configHome` and `configDirs` are the user's and the system's configuration folders, `executable` is
     /// what the entry starts.
-    XdgAutostart(QString configHome, QStringList configDirs, QString executable);
+    XdgAutostart(const QString &configHome, const QStringList &configDirs, QString executable);
 
     [[nodiscard]] bool isEnabled() const override;
     [[nodiscard]] std::optional<PlatformError> setEnabled(bool enabled) override;
