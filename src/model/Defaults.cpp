@@ -11,8 +11,8 @@
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QRegularExpression>
 
+#include <algorithm>
 #include <utility>
 
 namespace keyvora {
@@ -20,6 +20,27 @@ namespace keyvora {
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
+
+/// What a write that a crash interrupted has put behind the file's name and a dot.
+constexpr qsizetype temporarySuffixLength = 6;
+
+bool isSmallLetter(QChar character)
+{
+    return character >= u'a' && character <= u'z';
+}
+
+bool isCapitalLetter(QChar character)
+{
+    return character >= u'A' && character <= u'Z';
+}
+
+/// Whether this can only be drawn by lot. A word ("backup", "Before", "COPIED") may name a copy that the user made.
+bool isTemporarySuffix(QStringView suffix)
+{
+    return suffix.size() == temporarySuffixLength
+        && std::ranges::all_of(suffix, [](QChar c) { return isSmallLetter(c) || isCapitalLetter(c); })
+        && std::ranges::any_of(suffix, isSmallLetter) && std::ranges::any_of(suffix.sliced(1), isCapitalLetter);
+}
 
 QJsonValue jsonContainer(const QByteArray &json)
 {
@@ -179,12 +200,12 @@ bool Defaults::setAside(const Clock &clock) const
 
 void Defaults::removeLeftovers() const
 {
-    // Six letters that could be a word ("backup", "Before") may name a copy that the user made.
-    static const QRegularExpression temporarySuffix(u"\\A\\.(?=.*[a-z])[A-Za-z]+[A-Z][A-Za-z]*\\z"_s);
     const QFileInfo info(m_filePath);
+    const QString prefix = info.fileName() + u'.';
     QDir folder = info.dir();
-    for (const QString &name : folder.entryList({info.fileName() + u".??????"_s}, QDir::Files)) {
-        if (temporarySuffix.match(name.sliced(info.fileName().size())).hasMatch())
+    // Compared by hand: name filters would bring in the regular expression engine for good.
+    for (const QString &name : folder.entryList(QDir::Files)) {
+        if (name.startsWith(prefix) && isTemporarySuffix(QStringView(name).sliced(prefix.size())))
             folder.remove(name);
     }
 }

@@ -5,7 +5,10 @@
 
 #include "platform/ForeignText.h"
 
+#include <QHash>
+
 #include <algorithm>
+#include <utility>
 
 namespace keyvora {
 
@@ -20,28 +23,6 @@ constexpr qsizetype maximumSteps = 128;
 // What a card can show; imported titles can be any length.
 constexpr qsizetype maximumTitleLength = 200;
 constexpr qsizetype maximumDetailLength = 400;
-
-/// Numbers the rows that share an id.
-class Identities
-{
-public:
-    struct Identity
-    {
-        QString id;
-        int occurrence;
-
-        friend bool operator==(const Identity &, const Identity &) = default;
-        friend size_t qHash(const Identity &identity, size_t seed = 0)
-        {
-            return qHashMulti(seed, identity.id, identity.occurrence);
-        }
-    };
-
-    Identity next(const QString &id) { return {id, m_seen[id]++}; }
-
-private:
-    QHash<QString, int> m_seen;
-};
 
 /// Lets everything behind the first `maximumSteps` interruptions of an otherwise equal order leave.
 void limitSteps(std::vector<qsizetype> &destinations, qsizetype newSize)
@@ -151,17 +132,30 @@ void ShortcutListModel::languageChanged()
 
 std::vector<qsizetype> ShortcutListModel::destinations(const QList<Shortcut> &shortcuts) const
 {
-    QHash<Identities::Identity, qsizetype> places;
-    places.reserve(shortcuts.size());
-    Identities identities;
-    for (qsizetype i = 0; i < shortcuts.size(); ++i)
-        places.insert(identities.next(shortcuts[i].id), i);
+    // For each id its first place that no row has taken yet; for each place the next one with the same id.
+    struct Place
+    {
+        qsizetype index = leaves;
+    };
+    QHash<QStringView, Place> freePlaces;
+    freePlaces.reserve(shortcuts.size());
+    std::vector<qsizetype> nextPlaces(static_cast<size_t>(shortcuts.size()));
+    for (qsizetype i = shortcuts.size() - 1; i >= 0; --i) {
+        Place &first = freePlaces[shortcuts[i].id];
+        nextPlaces[static_cast<size_t>(i)] = std::exchange(first.index, i);
+    }
 
-    Identities present;
     std::vector<qsizetype> result;
     result.reserve(m_rows.size());
-    for (const Row &row : m_rows)
-        result.push_back(places.value(present.next(row->id), leaves));
+    for (const Row &row : m_rows) {
+        const auto place = freePlaces.find(row->id);
+        if (place == freePlaces.end() || place->index == leaves) {
+            result.push_back(leaves);
+            continue;
+        }
+        result.push_back(place->index);
+        place->index = nextPlaces[static_cast<size_t>(place->index)];
+    }
     return result;
 }
 

@@ -7,8 +7,8 @@
 #include "model/FirstTime.h"
 #include "model/PreferredLanguages.h"
 #include "platform/Appearance.h"
-#include "platform/NullStatusItem.h"
 #include "platform/NullWorkspace.h"
+#include "platform/linux/LinuxStatusItem.h"
 #include "platform/linux/PortalAppearance.h"
 #include "platform/linux/X11Connection.h"
 #include "platform/linux/X11Workspace.h"
@@ -53,7 +53,8 @@ KeyvoraApp::KeyvoraApp(ApplicationInstance &instance, const QProcessEnvironment 
     , m_model(modelDependencies())
     , m_userInterface(userInterfaceLibrary(), [this] { return userInterfaceContext(); })
     , m_mainWindow(m_menu, m_userInterface)
-    , m_statusItem(std::make_unique<NullStatusItem>())
+    , m_statusItem(
+          std::make_unique<LinuxStatusItem>(applicationIcon(), QDBusConnection::sessionBus(), m_x11.get()))
 {
     connect(&instance, &ApplicationInstance::activated, this,
             [this](const QString &token) { m_mainWindow.show(token); });

@@ -13,7 +13,7 @@ Rectangle {
     required property AppMenu appMenu
 
     readonly property bool czech: root.appMenu.czech
-    readonly property bool isActive: appTitle.menu.visible || editTitle.menu.visible || windowTitle.menu.visible
+    readonly property bool isActive: appTitle.dropDown.visible || editTitle.dropDown.visible || windowTitle.dropDown.visible
     // Where cutting, copying and pasting happens. An open menu has the focus itself, so the place before counts.
     property TextInput editedText: null
     readonly property Item focusItem: root.Window.activeFocusItem
@@ -22,9 +22,9 @@ Rectangle {
 
     // Opens one menu and closes the others.
     function present(title: AppMenuTitle): void {
-        appTitle.menu.close();
-        editTitle.menu.close();
-        windowTitle.menu.close();
+        appTitle.dropDown.close();
+        editTitle.dropDown.close();
+        windowTitle.dropDown.close();
         title.openMenu();
     }
 
@@ -74,7 +74,7 @@ Rectangle {
                 isBarActive: root.isActive
                 onRequested: root.present(appTitle)
 
-                menu: AppMenuPopup {
+                dropDown: AppMenuPopup {
                     title: "Keyvora"
                     onNextRequested: root.present(editTitle)
                     onPreviousRequested: root.present(windowTitle)
@@ -102,7 +102,7 @@ Rectangle {
                 isBarActive: root.isActive
                 onRequested: root.present(editTitle)
 
-                menu: AppMenuPopup {
+                dropDown: AppMenuPopup {
                     title: root.czech ? "Úpravy" : "Edit"
                     onNextRequested: root.present(windowTitle)
                     onPreviousRequested: root.present(appTitle)
@@ -138,7 +138,7 @@ Rectangle {
                 isBarActive: root.isActive
                 onRequested: root.present(windowTitle)
 
-                menu: AppMenuPopup {
+                dropDown: AppMenuPopup {
                     title: root.czech ? "Okno" : "Window"
                     onNextRequested: root.present(appTitle)
                     onPreviousRequested: root.present(editTitle)

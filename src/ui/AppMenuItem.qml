@@ -15,7 +15,6 @@ T.MenuItem {
     implicitHeight: 26
     width: ListView.view ? ListView.view.width : implicitWidth
     hoverEnabled: true
-    Accessible.role: Accessible.MenuItem
     Accessible.name: root.text
     Accessible.onPressAction: root.triggered()
 

@@ -5,29 +5,29 @@ import QtQuick
 import QtQuick.Templates as T
 
 // A menu's place in the menu bar. Pressing it opens the menu; while one is open, pointing is enough.
-T.AbstractButton {
+T.MenuItem {
     id: root
 
-    required property T.Menu menu
+    required property T.Menu dropDown
+
     property bool isBarActive: false
 
     // The person wants this menu open.
     signal requested
 
     function openMenu(): void {
-        root.menu.popup(root, 0, root.height);
+        root.dropDown.popup(root, 0, root.height);
     }
 
     implicitWidth: implicitContentWidth + 18
     implicitHeight: 24
     focusPolicy: Qt.NoFocus
-    text: root.menu.title
-    Accessible.role: Accessible.MenuItem
+    text: root.dropDown.title
     Accessible.name: root.text
     Accessible.onPressAction: root.requested()
-    onPressed: root.menu.visible ? root.menu.close() : root.requested()
+    onPressed: root.dropDown.visible ? root.dropDown.close() : root.requested()
     onHoveredChanged: {
-        if (root.hovered && root.isBarActive && !root.menu.visible)
+        if (root.hovered && root.isBarActive && !root.dropDown.visible)
             root.requested();
     }
 
@@ -38,7 +38,7 @@ T.AbstractButton {
     }
     background: Rectangle {
         radius: 6
-        color: root.hovered || root.menu.visible ? Theme.softAccent : "transparent"
+        color: root.hovered || root.dropDown.visible ? Theme.softAccent : "transparent"
 
         FocusRing {
             control: root

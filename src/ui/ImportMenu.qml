@@ -13,7 +13,6 @@ GlassButton {
     symbol: "download"
     trailingSymbol: "keyboard_arrow_down"
     text: Localized.czech ? "Import z menu" : "Import from Menu"
-    Accessible.role: Accessible.ButtonMenu
     Accessible.name: root.text
     onClicked: menu.opened ? menu.close() : menu.open()
 

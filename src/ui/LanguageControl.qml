@@ -12,7 +12,7 @@ FocusScope {
     implicitWidth: choices.implicitWidth
     implicitHeight: choices.implicitHeight
 
-    component Choice: T.AbstractButton {
+    component Choice: T.RadioButton {
         id: choice
 
         required property bool isCzech
@@ -21,10 +21,7 @@ FocusScope {
         implicitHeight: 32
         checked: Localized.czech === choice.isCzech
         opacity: choice.down ? 0.7 : 1
-        Accessible.role: Accessible.RadioButton
         Accessible.name: choice.text
-        Accessible.checkable: true
-        Accessible.checked: choice.checked
         Accessible.onPressAction: choice.clicked()
         Accessible.onToggleAction: choice.clicked()
         onClicked: Localized.czech = choice.isCzech

@@ -6,7 +6,7 @@ import QtQuick.Templates as T
 import Keyvora
 
 // Switches the filter for one modifier key.
-T.AbstractButton {
+T.CheckBox {
     id: root
 
     required property string token
@@ -15,12 +15,11 @@ T.AbstractButton {
     implicitWidth: Math.max(42, implicitContentWidth + 20)
     implicitHeight: 30
     checked: Array.from(root.appModel.modifierTokens).includes(root.token)
+    // The model decides what is on; the pill follows.
+    nextCheckState: () => root.checkState
     opacity: root.down ? 0.7 : 1
     onClicked: root.appModel.toggleModifierToken(root.token)
-    Accessible.role: Accessible.CheckBox
     Accessible.name: root.token + " " + Localized.spokenKeys([root.token], Localized.czech)
-    Accessible.checkable: true
-    Accessible.checked: root.checked
     Accessible.onPressAction: root.clicked()
     Accessible.onToggleAction: root.clicked()
 

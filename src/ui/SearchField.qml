@@ -76,7 +76,6 @@ T.TextField {
         height: 24
         visible: root.text.length > 0
         opacity: clearButton.down ? 0.7 : 1
-        Accessible.role: Accessible.Button
         Accessible.name: Localized.czech ? "Vymazat hledání" : "Clear search"
         Accessible.onPressAction: clearButton.clicked()
         onClicked: {

@@ -77,7 +77,7 @@ Item {
                     size: 11
                     color: Theme.secondaryInk
                 }
-                T.AbstractButton {
+                T.CheckBox {
                     id: star
 
                     Layout.preferredWidth: 24
@@ -85,10 +85,9 @@ Item {
                     Layout.rightMargin: -5
                     focusPolicy: Qt.NoFocus
                     checked: root.isFavorite
-                    Accessible.role: Accessible.CheckBox
+                    // The model decides what is a favourite; the star follows.
+                    nextCheckState: () => star.checkState
                     Accessible.name: (Localized.czech ? "Oblíbená: " : "Favorite: ") + root.title
-                    Accessible.checkable: true
-                    Accessible.checked: root.isFavorite
                     Accessible.onPressAction: star.clicked()
                     Accessible.onToggleAction: star.clicked()
                     onClicked: root.favoriteToggled(root.shortcutId)

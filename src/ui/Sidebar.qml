@@ -104,7 +104,6 @@ FocusScope {
             width: ListView.view.width
             text: title
             selected: root.sections.currentRow === index
-            Accessible.role: Accessible.ListItem
             Accessible.name: title
             Accessible.focusable: true
             Accessible.selectable: true

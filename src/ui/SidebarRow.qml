@@ -5,7 +5,7 @@ import QtQuick
 import QtQuick.Templates as T
 
 // One row of the sidebar.
-T.AbstractButton {
+T.ItemDelegate {
     id: root
 
     required property string symbol
