@@ -34,12 +34,14 @@ bool isCapitalLetter(QChar character)
     return character >= u'A' && character <= u'Z';
 }
 
-/// Whether this can only be drawn by lot. A word ("backup", "Before", "COPIED") may name a copy that the user made.
+/// Whether this can only be drawn by lot. A word ("backup", "Before", "COPIED") may name a copy that the user
+/// made.
 bool isTemporarySuffix(QStringView suffix)
 {
-    return suffix.size() == temporarySuffixLength
-        && std::ranges::all_of(suffix, [](QChar c) { return isSmallLetter(c) || isCapitalLetter(c); })
-        && std::ranges::any_of(suffix, isSmallLetter) && std::ranges::any_of(suffix.sliced(1), isCapitalLetter);
+    return suffix.size() == temporarySuffixLength &&
+           std::ranges::all_of(suffix, [](QChar c) { return isSmallLetter(c) || isCapitalLetter(c); }) &&
+           std::ranges::any_of(suffix, isSmallLetter) &&
+           std::ranges::any_of(suffix.sliced(1), isCapitalLetter);
 }
 
 QJsonValue jsonContainer(const QByteArray &json)

@@ -19,8 +19,8 @@ FocusScope {
 
     property bool hasGreeted: false
 
-    function greet(): void {
-        if (!root.isFirstTime || root.hasGreeted || root.Window.window === null)
+    function greet(window: Window): void {
+        if (!root.isFirstTime || root.hasGreeted || window === null)
             return;
         root.hasGreeted = true;
         sheet.present("OnboardingView");
@@ -28,8 +28,8 @@ FocusScope {
 
     focus: true
     // Sheets need a window, which may come after the content.
-    onWindowChanged: root.greet()
-    Component.onCompleted: root.greet()
+    onWindowChanged: window => root.greet(window)
+    Component.onCompleted: root.greet(root.Window.window)
 
     Shortcut {
         sequence: "Ctrl+F"

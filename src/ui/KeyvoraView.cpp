@@ -3,6 +3,7 @@
 
 #include "ui/KeyvoraView.h"
 
+#include <QGuiApplication>
 #include <QKeyEvent>
 
 namespace keyvora {
@@ -18,8 +19,8 @@ KeyvoraView::KeyvoraView(QQmlEngine *engine, QObject *theme)
 
 void KeyvoraView::bringToFront(const QString &activationToken)
 {
-    // Where the toolkit looks for it when a window asks to come to the front.
-    if (!activationToken.isEmpty())
+    // Where the toolkit looks for it on Wayland when a window asks to come to the front; it takes it out again.
+    if (!activationToken.isEmpty() && QGuiApplication::platformName().startsWith("wayland"_L1))
         qputenv("XDG_ACTIVATION_TOKEN", activationToken.toUtf8());
     if (windowStates().testFlag(Qt::WindowMinimized))
         setWindowStates(windowStates() & ~Qt::WindowMinimized);

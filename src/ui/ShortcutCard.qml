@@ -82,7 +82,10 @@ Item {
 
                     Layout.preferredWidth: 24
                     Layout.preferredHeight: 24
+                    // Larger to hit than to see.
                     Layout.rightMargin: -5
+                    Layout.topMargin: -4
+                    Layout.bottomMargin: -4
                     focusPolicy: Qt.NoFocus
                     checked: root.isFavorite
                     // The model decides what is a favourite; the star follows.
@@ -113,16 +116,14 @@ Item {
                 }
                 PlainLabel {
                     Layout.fillWidth: true
+                    Layout.fillHeight: true
                     text: root.detail
                     size: 11.5
                     color: Theme.secondaryInk
                     wrapMode: Text.Wrap
                     maximumLineCount: 2
+                    verticalAlignment: Text.AlignTop
                 }
-            }
-            Item {
-                Layout.fillHeight: true
-                Layout.topMargin: -12
             }
             Item {
                 id: capsPlace
