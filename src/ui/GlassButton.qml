@@ -18,6 +18,8 @@ T.Button {
     spacing: 8
     opacity: !root.enabled ? 0.5 : root.down ? 0.7 : 1
     Accessible.onPressAction: root.clicked()
+    Keys.onReturnPressed: root.clicked()
+    Keys.onEnterPressed: root.clicked()
 
     contentItem: Row {
         spacing: root.spacing

@@ -5,6 +5,7 @@
 
 #include <QGuiApplication>
 #include <QKeyEvent>
+#include <QQuickItem>
 
 namespace keyvora {
 
@@ -15,11 +16,22 @@ KeyvoraView::KeyvoraView(QQmlEngine *engine, QObject *theme)
     , m_theme(theme)
 {
     setResizeMode(QQuickView::SizeRootObjectToView);
+    connect(this, &QQuickWindow::activeFocusItemChanged, this, &KeyvoraView::restoreFocus,
+            Qt::QueuedConnection);
+}
+
+void KeyvoraView::restoreFocus()
+{
+    // A popup that closes leaves the focus to nobody; the content still knows where it was.
+    const QQuickItem *focused = activeFocusItem();
+    if ((focused == nullptr || focused == contentItem()) && rootObject() != nullptr)
+        rootObject()->forceActiveFocus(Qt::PopupFocusReason);
 }
 
 void KeyvoraView::bringToFront(const QString &activationToken)
 {
-    // Where the toolkit looks for it on Wayland when a window asks to come to the front; it takes it out again.
+    // Where the toolkit looks for it on Wayland when a window asks to come to the front; it takes it out
+    // again.
     if (!activationToken.isEmpty() && QGuiApplication::platformName().startsWith("wayland"_L1))
         qputenv("XDG_ACTIVATION_TOKEN", activationToken.toUtf8());
     if (windowStates().testFlag(Qt::WindowMinimized))

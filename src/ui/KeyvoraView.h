@@ -24,6 +24,8 @@ protected:
     bool event(QEvent *event) override;
 
 private:
+    void restoreFocus();
+
     QObject *m_theme;
 };
 

@@ -5,19 +5,22 @@ import QtQuick
 import Keyvora
 
 // The panel of the tray icon.
-Rectangle {
+FocusScope {
     id: root
 
     required property PanelController controller
 
     width: 330
     height: column.implicitHeight + 24
-    color: Theme.base
-    border.width: Theme.hairlineWidth
-    border.color: Theme.hairline
     focus: true
     Keys.onEscapePressed: root.controller.dismiss()
 
+    Rectangle {
+        anchors.fill: parent
+        color: Theme.base
+        border.width: Theme.hairlineWidth
+        border.color: Theme.hairline
+    }
     Column {
         id: column
         x: 12
@@ -50,7 +53,6 @@ Rectangle {
                 symbol: "grid_view"
                 text: Localized.czech ? "Otevřít knihovnu" : "Open Library"
                 onClicked: root.controller.openLibrary()
-                Keys.onReturnPressed: clicked()
             }
             GlassButton {
                 anchors.right: parent.right

@@ -74,8 +74,6 @@ AppSheet {
             focus: true
             text: Localized.czech ? "Začít" : "Get Started"
             onClicked: root.close()
-            Keys.onReturnPressed: root.close()
-            Keys.onEnterPressed: root.close()
         }
     }
 }

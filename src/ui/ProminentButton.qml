@@ -16,6 +16,8 @@ T.Button {
     rightPadding: 14
     opacity: !root.enabled ? 0.5 : root.down ? 0.7 : 1
     Accessible.onPressAction: root.clicked()
+    Keys.onReturnPressed: root.clicked()
+    Keys.onEnterPressed: root.clicked()
 
     contentItem: Item {
         implicitWidth: (children[0] as Row).implicitWidth

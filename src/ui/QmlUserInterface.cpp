@@ -76,6 +76,9 @@ void QmlUserInterface::showMainWindow(const QString &activationToken)
 {
     if (!m_mainWindow)
         makeMainWindow();
+    // Window managers place a window that comes back by where its frame was asked to be.
+    if (!m_mainWindow->isVisible())
+        m_mainWindowFrame->restore(initialWindowSize);
     m_mainWindow->bringToFront(activationToken);
 }
 
@@ -96,7 +99,6 @@ void QmlUserInterface::makeMainWindow()
                                content->property("minimumHeight").toInt());
     m_mainWindow->setMinimumSize(minimumWindowSize.expandedTo(contentMinimum));
     m_mainWindowFrame = std::make_unique<WindowFrame>(*m_mainWindow, m_context.windowFrames, "MainWindow"_L1);
-    m_mainWindowFrame->restore(initialWindowSize);
 
     QObject::connect(m_mainWindow.get(), &QWindow::visibleChanged, m_mainWindow.get(),
                      [this](bool isVisible) {

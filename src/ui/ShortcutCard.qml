@@ -43,11 +43,16 @@ Item {
 
     Card {
         id: card
-        anchors.fill: parent
-        raised: hover.hovered
-        scale: hover.hovered ? 1.012 : 1
 
-        Behavior on scale {
+        // Grows by its measures: a transformation would leave seams in what the software renderer draws.
+        property real growth: hover.hovered ? 1.012 : 1
+
+        anchors.centerIn: parent
+        width: Math.round(root.width * card.growth)
+        height: Math.round(root.height * card.growth)
+        raised: hover.hovered
+
+        Behavior on growth {
             enabled: !Theme.reducedMotion
 
             SpringAnimation {

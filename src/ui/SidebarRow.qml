@@ -15,6 +15,8 @@ T.ItemDelegate {
     focusPolicy: Qt.NoFocus
     opacity: root.down ? 0.7 : 1
     Accessible.onPressAction: root.clicked()
+    Keys.onReturnPressed: root.clicked()
+    Keys.onEnterPressed: root.clicked()
 
     contentItem: Item {
         Item {

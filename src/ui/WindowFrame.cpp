@@ -68,24 +68,34 @@ WindowFrame::WindowFrame(QWindow &window, Defaults &store, QLatin1StringView nam
     connect(&window, &QWindow::widthChanged, this, saveSoon);
     connect(&window, &QWindow::heightChanged, this, saveSoon);
     connect(&window, &QWindow::visibleChanged, this, [this](bool isVisible) {
-        if (!isVisible && m_saveTimer.isActive())
-            save();
+        if (!isVisible)
+            savePending();
     });
+}
+
+WindowFrame::~WindowFrame()
+{
+    savePending();
 }
 
 void WindowFrame::restore(QSize initialSize)
 {
     const auto stored = parsedFrame(m_store.text(m_name).value_or(QString()));
     const QSize minimum = m_window.minimumSize();
-    if (stored && canBeGrasped(*stored)) {
-        m_window.setFramePosition(stored->topLeft());
-        m_window.resize(stored->size().expandedTo(minimum));
-        return;
-    }
     QRect frame(QPoint(), initialSize.expandedTo(minimum));
-    frame.moveCenter(QGuiApplication::primaryScreen()->availableGeometry().center());
-    m_window.setFramePosition(frame.topLeft());
+    if (stored && canBeGrasped(*stored))
+        frame = QRect(stored->topLeft(), stored->size().expandedTo(minimum));
+    else
+        frame.moveCenter(QGuiApplication::primaryScreen()->availableGeometry().center());
+    // In this order: resizing takes the position for that of the content.
     m_window.resize(frame.size());
+    m_window.setFramePosition(frame.topLeft());
+}
+
+void WindowFrame::savePending()
+{
+    if (m_saveTimer.isActive())
+        save();
 }
 
 void WindowFrame::save()

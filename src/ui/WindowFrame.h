@@ -22,12 +22,15 @@ class WindowFrame : public QObject
 public:
     /// `name` is the key in the store, which outlives the frame.
     WindowFrame(QWindow &window, Defaults &store, QLatin1StringView name);
+    /// Writes what has not been written yet. The window must still be there.
+    ~WindowFrame() override;
 
     /// Puts the window where it was or, when nothing usable is stored, in the middle of the main screen with
     /// the given size. Never smaller than the window's minimum, never where no screen shows its title.
     void restore(QSize initialSize);
 
 private:
+    void savePending();
     void save();
 
     QWindow &m_window;

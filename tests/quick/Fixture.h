@@ -3,12 +3,12 @@
 
 #pragma once
 
+#include "fakes/FakeLoginItem.h"
+#include "fakes/FakeWorkspace.h"
 #include "model/AppModel.h"
 #include "model/Defaults.h"
 #include "model/Localization.h"
 #include "system/AppMenu.h"
-#include "fakes/FakeLoginItem.h"
-#include "fakes/FakeWorkspace.h"
 #include "ui/PanelController.h"
 #include "ui/SidebarModel.h"
 

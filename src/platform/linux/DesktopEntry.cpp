@@ -55,6 +55,8 @@ QString firstArgument(QStringView exec)
             isQuoted = !isQuoted;
         } else if (isQuoted && character == u'\\' && i + 1 < exec.size()) {
             argument.append(exec[++i]);
+        } else if (exec.sliced(i).startsWith("%%"_L1)) {
+            argument.append(exec[i++]);
         } else if (!isQuoted && character.isSpace()) {
             if (!argument.isEmpty())
                 break;
@@ -145,6 +147,10 @@ QString DesktopEntry::quotedForExec(const QString &filePath)
             quoted.append(u"\\\\"_s).append(character);
         else if (character == u'%')
             quoted.append(u"%%"_s);
+        else if (character == u'\n')
+            quoted.append(u"\\n"_s);
+        else if (character == u'\r')
+            quoted.append(u"\\r"_s);
         else
             quoted.append(character);
     }

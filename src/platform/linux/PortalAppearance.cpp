@@ -38,6 +38,14 @@ QVariant unwrapped(QVariant value)
     return value;
 }
 
+/// The value of a setting; nothing when it is of another type than it should be.
+template <typename Value>
+std::optional<Value> typed(const QVariant &setting)
+{
+    return setting.metaType() == QMetaType::fromType<Value>() ? std::optional(setting.value<Value>())
+                                                              : std::nullopt;
+}
+
 } // namespace
 
 PortalAppearance::PortalAppearance(const QDBusConnection &sessionBus, QObject *parent)
@@ -86,14 +94,14 @@ void PortalAppearance::settingChanged(const QString &group, const QString &key, 
     const QVariant setting = unwrapped(value);
     if (group == appearanceGroup && key == "color-scheme"_L1) {
         // 0 is no preference, 1 is dark, 2 is light; numbers still to come mean no preference, too.
-        const uint scheme = setting.toUInt();
+        const uint scheme = typed<uint>(setting).value_or(0);
         m_prefersDark = scheme == 1 ? std::optional(true) : scheme == 2 ? std::optional(false) : std::nullopt;
     } else if (group == appearanceGroup && key == "contrast"_L1) {
-        m_portalContrast = setting.toUInt() == 1;
+        m_portalContrast = typed<uint>(setting) == 1;
     } else if (group == accessibilityGroup && key == "high-contrast"_L1) {
-        m_desktopContrast = setting.toBool();
+        m_desktopContrast = typed<bool>(setting).value_or(false);
     } else if (group == interfaceGroup && key == "enable-animations"_L1) {
-        m_animations = setting.toBool();
+        m_animations = typed<bool>(setting).value_or(true);
     } else {
         return;
     }

@@ -51,7 +51,7 @@ void whenFinished(const QDBusPendingCall &call, QObject *context, Handler handle
 StatusNotifierItem::StatusNotifierItem(const QIcon &icon, const QDBusConnection &sessionBus, QObject *parent)
     : QObject(parent)
     , m_bus(sessionBus)
-    , m_pixmaps(iconPixmaps(icon))
+    , m_icon(icon)
 {
     if (!m_bus.isConnected()) {
         m_hasHost = false;
@@ -97,6 +97,13 @@ QString StatusNotifierItem::category() const
 QString StatusNotifierItem::id() const
 {
     return u"app.keyvora.Keyvora"_s;
+}
+
+IconPixmapList StatusNotifierItem::pixmaps() const
+{
+    if (m_pixmaps.isEmpty())
+        m_pixmaps = iconPixmaps(m_icon);
+    return m_pixmaps;
 }
 
 QString StatusNotifierItem::title() const

@@ -8,6 +8,7 @@
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusObjectPath>
+#include <QIcon>
 #include <QObject>
 #include <QPoint>
 #include <QString>
@@ -57,7 +58,8 @@ public:
     [[nodiscard]] QString status() const;
     [[nodiscard]] int windowId() const { return 0; }
     [[nodiscard]] QString noName() const { return {}; }
-    [[nodiscard]] IconPixmapList pixmaps() const { return m_pixmaps; }
+    /// Drawn when the first status area asks, which may be never.
+    [[nodiscard]] IconPixmapList pixmaps() const;
     [[nodiscard]] IconPixmapList noPixmaps() const { return {}; }
     [[nodiscard]] IconToolTip toolTip() const;
     [[nodiscard]] bool itemIsMenu() const { return false; }
@@ -84,7 +86,8 @@ private:
     void setHasHost(bool hasHost);
 
     QDBusConnection m_bus;
-    IconPixmapList m_pixmaps;
+    QIcon m_icon;
+    mutable IconPixmapList m_pixmaps;
     QString m_activationToken;
     QString m_watcher; ///< the unique name of its connection; empty without one
     std::optional<bool> m_hasHost;

@@ -62,6 +62,7 @@ xcb_atom_t X11Connection::atom(const QByteArray &name)
                                                   &std::free);
     const xcb_atom_t atom = reply ? reply->atom : static_cast<xcb_atom_t>(XCB_ATOM_NONE);
     m_atoms.insert(name, atom);
+    readLater();
     return atom;
 }
 
@@ -103,13 +104,21 @@ void X11Connection::finishPendingReplies()
         const XcbReply<void> reply(xcb_wait_for_reply(m_connection, pending.sequence, nullptr), &std::free);
         pending.handler(reply.get());
     }
-    // Reading replies may have queued events that the socket no longer announces.
-    QMetaObject::invokeMethod(this, &X11Connection::readAvailable, Qt::QueuedConnection);
+    readLater();
 }
 
 void X11Connection::flush()
 {
     xcb_flush(m_connection);
+    readLater();
+}
+
+void X11Connection::readLater()
+{
+    // Whatever waits for the server may take replies and events off the socket, which then no longer
+    // announces them.
+    if (!std::exchange(m_willRead, true))
+        QMetaObject::invokeMethod(this, &X11Connection::readAvailable, Qt::QueuedConnection);
 }
 
 void X11Connection::readAvailable()
@@ -118,33 +127,44 @@ void X11Connection::readAvailable()
         m_notifier->setEnabled(false);
         return;
     }
+    m_willRead = true;
     // Reading replies queues events and the other way round, so both go on until neither finds anything.
-    dispatchEvents();
-    dispatchReplies();
-    dispatchEvents();
+    dispatchEvents(&xcb_poll_for_event);
+    bool hasFound = true;
+    while (hasFound) {
+        hasFound = dispatchReplies();
+        hasFound = dispatchEvents(&xcb_poll_for_queued_event) || hasFound;
+    }
+    m_willRead = false;
 }
 
-void X11Connection::dispatchReplies()
+bool X11Connection::dispatchReplies()
 {
+    bool hasFound = false;
     while (!m_pendingReplies.empty()) {
         void *data = nullptr;
         xcb_generic_error_t *failure = nullptr;
         if (xcb_poll_for_reply(m_connection, m_pendingReplies.front().sequence, &data, &failure) == 0)
-            return;
+            break;
+        hasFound = true;
         const XcbReply<void> reply(data, &std::free);
         const XcbReply<xcb_generic_error_t> error(failure, &std::free);
         const PendingReply pending = std::move(m_pendingReplies.front());
         m_pendingReplies.pop_front();
         pending.handler(reply.get());
     }
+    return hasFound;
 }
 
-void X11Connection::dispatchEvents()
+bool X11Connection::dispatchEvents(xcb_generic_event_t *(*nextEvent)(xcb_connection_t *))
 {
-    while (xcb_generic_event_t *data = xcb_poll_for_event(m_connection)) {
+    bool hasFound = false;
+    while (xcb_generic_event_t *data = nextEvent(m_connection)) {
         const XcbReply<xcb_generic_event_t> event(data, &std::free);
+        hasFound = true;
         emit eventReceived(event.get());
     }
+    return hasFound;
 }
 
 } // namespace keyvora

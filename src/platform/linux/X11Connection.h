@@ -69,9 +69,11 @@ private:
     };
 
     X11Connection(xcb_connection_t *connection, int screenNumber);
+    void readLater();
     void readAvailable();
-    void dispatchReplies();
-    void dispatchEvents();
+    // Both tell whether there was anything.
+    bool dispatchReplies();
+    bool dispatchEvents(xcb_generic_event_t *(*nextEvent)(xcb_connection_t *));
 
     xcb_connection_t *m_connection;
     int m_screenNumber;
@@ -80,6 +82,7 @@ private:
     QHash<QByteArray, xcb_atom_t> m_atoms;
     std::deque<PendingReply> m_pendingReplies;
     QSocketNotifier *m_notifier;
+    bool m_willRead = false; ///< the event loop is going to read, or does so just now
 };
 
 } // namespace keyvora

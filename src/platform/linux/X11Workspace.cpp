@@ -5,6 +5,8 @@
 
 #include "platform/linux/X11Connection.h"
 
+#include <QPointer>
+
 #include <cstring>
 #include <memory>
 #include <utility>
@@ -67,21 +69,25 @@ void X11Workspace::handleEvent(const xcb_generic_event_t *event)
 void X11Workspace::readActiveWindow()
 {
     m_connection.readProperty(m_connection.root(), "_NET_ACTIVE_WINDOW", sizeof(xcb_window_t),
-                              [this](const QByteArray &value) {
+                              [self = QPointer(this)](const QByteArray &value) {
                                   // Some window managers write two values; the first is the window.
-                                  const xcb_window_t window = firstCardinal(value).value_or(XCB_WINDOW_NONE);
-                                  if (window != XCB_WINDOW_NONE)
-                                      readWindow(window);
+                                  if (self)
+                                      self->readWindow(firstCardinal(value).value_or(XCB_WINDOW_NONE));
                               });
 }
 
 void X11Workspace::readWindow(xcb_window_t window)
 {
     const quint64 reading = ++m_reading;
+    if (window == XCB_WINDOW_NONE) {
+        m_frontmost.reset();
+        return;
+    }
     const auto facts = std::make_shared<WindowFacts>();
     m_connection.readProperty(window, "_NET_WM_PID", sizeof(quint32), [facts](const QByteArray &value) {
-        if (const auto pid = firstCardinal(value))
-            facts->pid = static_cast<qint32>(*pid);
+        const quint32 pid = firstCardinal(value).value_or(0);
+        if (pid != 0 && std::in_range<qint32>(pid))
+            facts->pid = static_cast<qint32>(pid);
     });
     m_connection.readProperty(
         window, "_GTK_APPLICATION_ID", maximumClassBytes,
@@ -94,11 +100,12 @@ void X11Workspace::readWindow(xcb_window_t window)
         });
     // Answers come in the order of the questions, so that this one completes the facts.
     m_connection.readProperty(window, "WM_CLASS", maximumClassBytes,
-                              [this, facts, reading](const QByteArray &value) {
+                              [self = QPointer(this), facts, reading](const QByteArray &value) {
                                   const QList<QByteArray> parts = value.split('\0');
                                   facts->identity.windowInstance = QString::fromUtf8(parts.value(0));
                                   facts->identity.windowClass = QString::fromUtf8(parts.value(1));
-                                  windowRead(reading, *facts);
+                                  if (self)
+                                      self->windowRead(reading, *facts);
                               });
 }
 
@@ -106,6 +113,11 @@ void X11Workspace::windowRead(quint64 reading, const WindowFacts &facts)
 {
     if (reading != m_reading || facts.isPartOfDesktop)
         return;
+    const quint64 activation = ++m_activation;
+    if (!facts.pid && facts.identity == WindowIdentity()) {
+        m_frontmost.reset(); // the window is gone already
+        return;
+    }
     const auto known = m_knownNames.constFind(facts.identity);
     if (known != m_knownNames.constEnd()) {
         m_frontmost = RunningApplication{*known, facts.pid};
@@ -113,27 +125,27 @@ void X11Workspace::windowRead(quint64 reading, const WindowFacts &facts)
         return;
     }
     m_frontmost = RunningApplication{ApplicationNames::fallback(facts.identity), facts.pid};
-    findName(reading, facts.identity);
+    findName(activation, facts.identity);
 }
 
-void X11Workspace::findName(quint64 reading, const WindowIdentity &identity)
+void X11Workspace::findName(quint64 activation, const WindowIdentity &identity)
 {
     // The destructor waits for the search, so that `this` and the names outlive it.
-    m_nameSearch.start([this, reading, identity] {
+    m_nameSearch.start([this, activation, identity] {
         const QString name = m_names.find(identity);
         QMetaObject::invokeMethod(
-            this, [this, reading, identity, name] { nameFound(reading, identity, name); },
+            this, [this, activation, identity, name] { nameFound(activation, identity, name); },
             Qt::QueuedConnection);
     });
 }
 
-void X11Workspace::nameFound(quint64 reading, const WindowIdentity &identity, const QString &name)
+void X11Workspace::nameFound(quint64 activation, const WindowIdentity &identity, const QString &name)
 {
     const QString shown = name.isEmpty() ? ApplicationNames::fallback(identity) : name;
     if (m_knownNames.size() >= maximumKnownNames)
         m_knownNames.clear();
     m_knownNames.insert(identity, shown);
-    if (reading != m_reading || !m_frontmost)
+    if (activation != m_activation || !m_frontmost)
         return;
     m_frontmost->name = shown;
     emit applicationActivated(*m_frontmost);

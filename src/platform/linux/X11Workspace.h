@@ -43,14 +43,16 @@ private:
     void readActiveWindow();
     void readWindow(xcb_window_t window);
     void windowRead(quint64 reading, const WindowFacts &facts);
-    void findName(quint64 reading, const WindowIdentity &identity);
-    void nameFound(quint64 reading, const WindowIdentity &identity, const QString &name);
+    void findName(quint64 activation, const WindowIdentity &identity);
+    void nameFound(quint64 activation, const WindowIdentity &identity, const QString &name);
 
     X11Connection &m_connection;
     ApplicationNames m_names;
     QHash<WindowIdentity, QString> m_knownNames;
     std::optional<RunningApplication> m_frontmost;
-    quint64 m_reading = 0; ///< counts activations, so that a late answer to an earlier one is dropped
+    quint64 m_reading =
+        0; ///< counts what was announced, so that a late answer about an earlier window is dropped
+    quint64 m_activation = 0; ///< counts what came to the front, so that a name found late is dropped
     QThreadPool m_nameSearch;
 };
 

@@ -1,0 +1,111 @@
+// SPDX-FileCopyrightText: 2026 The Keyvora developers
+// SPDX-License-Identifier: MIT
+
+#include "contract/X11Desktop.h"
+
+#include <cstdlib>
+
+namespace keyvora {
+
+namespace {
+
+template <typename Reply>
+using XcbReply = std::unique_ptr<Reply, decltype(&std::free)>;
+
+constexpr uint8_t bitsOfBytes = 8;
+constexpr uint8_t bitsOfNumbers = 32;
+
+} // namespace
+
+X11Desktop::X11Desktop(const QByteArray &display)
+    : m_connection(xcb_connect(display.constData(), nullptr))
+    , m_screen(xcb_setup_roots_iterator(xcb_get_setup(m_connection.get())).data)
+{
+}
+
+xcb_window_t X11Desktop::makeWindow(const WindowProperties &properties)
+{
+    const xcb_window_t window = xcb_generate_id(m_connection.get());
+    xcb_create_window(m_connection.get(), XCB_COPY_FROM_PARENT, window, m_screen->root, 0, 0, 100, 100, 0,
+                      XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT, 0, nullptr);
+    if (!properties.instance.isNull() || !properties.windowClass.isNull())
+        setProperty(window, "WM_CLASS", XCB_ATOM_STRING,
+                    properties.instance + '\0' + properties.windowClass + '\0');
+    if (properties.pid)
+        setNumbers(window, "_NET_WM_PID", XCB_ATOM_CARDINAL, {*properties.pid});
+    if (!properties.type.isEmpty())
+        setNumbers(window, "_NET_WM_WINDOW_TYPE", XCB_ATOM_ATOM, {atom(properties.type)});
+    finish();
+    return window;
+}
+
+void X11Desktop::show(xcb_window_t window)
+{
+    xcb_map_window(m_connection.get(), window);
+    finish();
+}
+
+void X11Desktop::destroy(xcb_window_t window)
+{
+    xcb_destroy_window(m_connection.get(), window);
+    finish();
+}
+
+void X11Desktop::setActiveWindow(const QList<quint32> &values)
+{
+    setNumbers(m_screen->root, "_NET_ACTIVE_WINDOW", XCB_ATOM_WINDOW, values);
+}
+
+void X11Desktop::setProperty(xcb_window_t window, const QByteArray &name, xcb_atom_t type,
+                             const QByteArray &bytes)
+{
+    xcb_change_property(m_connection.get(), XCB_PROP_MODE_REPLACE, window, atom(name), type, bitsOfBytes,
+                        static_cast<uint32_t>(bytes.size()), bytes.constData());
+    finish();
+}
+
+void X11Desktop::setRootProperty(const QByteArray &name, xcb_atom_t type, const QByteArray &bytes)
+{
+    setProperty(m_screen->root, name, type, bytes);
+}
+
+void X11Desktop::removeRootProperty(const QByteArray &name)
+{
+    xcb_delete_property(m_connection.get(), m_screen->root, atom(name));
+    finish();
+}
+
+bool X11Desktop::hasWindowManager()
+{
+    const auto cookie = xcb_get_property(m_connection.get(), 0, m_screen->root,
+                                         atom("_NET_SUPPORTING_WM_CHECK"), XCB_ATOM_WINDOW, 0, 1);
+    const XcbReply<xcb_get_property_reply_t> reply(
+        xcb_get_property_reply(m_connection.get(), cookie, nullptr), &std::free);
+    return reply && xcb_get_property_value_length(reply.get()) > 0;
+}
+
+xcb_atom_t X11Desktop::atom(const QByteArray &name)
+{
+    const auto cookie =
+        xcb_intern_atom(m_connection.get(), 0, static_cast<uint16_t>(name.size()), name.constData());
+    const XcbReply<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(m_connection.get(), cookie, nullptr),
+                                                  &std::free);
+    return reply ? reply->atom : static_cast<xcb_atom_t>(XCB_ATOM_NONE);
+}
+
+void X11Desktop::setNumbers(xcb_window_t window, const QByteArray &name, xcb_atom_t type,
+                            const QList<quint32> &values)
+{
+    xcb_change_property(m_connection.get(), XCB_PROP_MODE_REPLACE, window, atom(name), type, bitsOfNumbers,
+                        static_cast<uint32_t>(values.size()), values.constData());
+    finish();
+}
+
+void X11Desktop::finish()
+{
+    // Requests are carried out in order, so that an answer to this one tells about all before it.
+    const auto cookie = xcb_get_input_focus(m_connection.get());
+    std::free(xcb_get_input_focus_reply(m_connection.get(), cookie, nullptr));
+}
+
+} // namespace keyvora

@@ -1,0 +1,23 @@
+# SPDX-FileCopyrightText: 2026 The Keyvora developers
+# SPDX-License-Identifier: MIT
+"""The mouse."""
+
+import subprocess
+
+LEFT, MIDDLE, RIGHT = 1, 2, 3
+
+
+def click(node, button=LEFT):
+    """Clicks the middle of what an accessible object shows."""
+    centre = node.centre
+    if centre is None:
+        raise AssertionError(f"nothing to click at: {node.describe()}")
+    click_at(*centre, button)
+
+
+def click_at(x, y, button=LEFT):
+    subprocess.run(["xdotool", "mousemove", str(x), str(y), "click", str(button)], check=True)
+
+
+def move_to(x, y):
+    subprocess.run(["xdotool", "mousemove", str(x), str(y)], check=True)

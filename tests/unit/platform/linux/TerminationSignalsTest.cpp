@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: 2026 The Keyvora developers
+// SPDX-License-Identifier: MIT
+
+#include "platform/linux/TerminationSignals.h"
+
+#include <QCoreApplication>
+#include <QSignalSpy>
+
+#include <array>
+#include <csignal>
+#include <gtest/gtest.h>
+
+namespace keyvora {
+
+namespace {
+
+constexpr std::array endingSignals{SIGTERM, SIGINT, SIGHUP};
+
+} // namespace
+
+TEST(TerminationSignals, ArriveFromTheEventLoop)
+{
+    for (const int signal : endingSignals) {
+        const TerminationSignals termination;
+        QSignalSpy requests(&termination, &TerminationSignals::terminationRequested);
+        ASSERT_EQ(raise(signal), 0);
+        EXPECT_TRUE(requests.isEmpty()) << signal;
+        EXPECT_TRUE(requests.wait()) << signal;
+        QCoreApplication::processEvents();
+        EXPECT_EQ(requests.size(), 1) << signal;
+    }
+}
+
+TEST(TerminationSignals, ArriveOnceHoweverManyThereAre)
+{
+    const TerminationSignals termination;
+    QSignalSpy requests(&termination, &TerminationSignals::terminationRequested);
+    for (const int signal : endingSignals)
+        ASSERT_EQ(raise(signal), 0);
+    EXPECT_TRUE(requests.wait());
+    ASSERT_EQ(raise(SIGTERM), 0);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(requests.size(), 1);
+}
+
+TEST(TerminationSignals, HaveTheirUsualEffectAgainAfterwards)
+{
+    {
+        const TerminationSignals termination;
+    }
+    for (const int signal : endingSignals) {
+        struct sigaction action = {};
+        ASSERT_EQ(sigaction(signal, nullptr, &action), 0);
+        EXPECT_EQ(action.sa_handler, SIG_DFL) << signal;
+    }
+}
+
+} // namespace keyvora
