@@ -77,7 +77,7 @@ std::optional<QStringList> Defaults::textList(QLatin1StringView key) const
     if (!value.isArray())
         return std::nullopt;
     QStringList texts;
-    for (const QJsonValue &element : value.toArray()) {
+    for (const QJsonValue element : value.toArray()) {
         if (!element.isString())
             return std::nullopt;
         texts.append(element.toString());

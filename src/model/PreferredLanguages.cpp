@@ -12,7 +12,7 @@ namespace {
 QString messageLocale(const QProcessEnvironment &environment)
 {
     for (const QString &variable : {u"LC_ALL"_s, u"LC_MESSAGES"_s, u"LANG"_s}) {
-        const QString value = environment.value(variable);
+        QString value = environment.value(variable);
         if (!value.isEmpty())
             return value;
     }

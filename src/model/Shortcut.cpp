@@ -74,7 +74,7 @@ std::optional<QStringList> textListField(const QJsonObject &object, QLatin1Strin
     const QJsonArray array = value.toArray();
     QStringList texts;
     texts.reserve(array.size());
-    for (const QJsonValue &element : array) {
+    for (const QJsonValue element : array) {
         if (!element.isString())
             return std::nullopt;
         texts.append(element.toString());
@@ -123,7 +123,7 @@ QString displayName(Shortcut::Category category)
 
 QString headerText(const Shortcut &shortcut)
 {
-    const QString category = displayName(shortcut.category);
+    QString category = displayName(shortcut.category);
     if (shortcut.apps.size() == 1 && shortcut.apps.first() != rawValue(shortcut.category))
         return category + u" · "_s + shortcut.apps.first();
     return category;
@@ -176,7 +176,7 @@ std::optional<QList<Shortcut>> decodeShortcuts(const QByteArray &json)
     const QJsonArray array = document.array();
     QList<Shortcut> shortcuts;
     shortcuts.reserve(array.size());
-    for (const QJsonValue &element : array) {
+    for (const QJsonValue element : array) {
         const auto shortcut = shortcutFromJson(element);
         if (!shortcut)
             return std::nullopt;

@@ -43,8 +43,8 @@ QChar withoutStroke(QChar letter)
 
 } // namespace
 
-ContainmentMatcher::ContainmentMatcher(const QString &needle, QLocale locale)
-    : m_locale(std::move(locale))
+ContainmentMatcher::ContainmentMatcher(const QString &needle, const QLocale &locale)
+    : m_locale(locale)
     , m_needsLocaleCase(hasOwnCaseRules(m_locale))
     , m_matcher(prepared(needle), Qt::CaseInsensitive)
 {

@@ -14,7 +14,7 @@ namespace keyvora {
 class ContainmentMatcher
 {
 public:
-    ContainmentMatcher(const QString &needle, QLocale locale);
+    ContainmentMatcher(const QString &needle, const QLocale &locale);
 
     [[nodiscard]] bool isContainedIn(const QString &text) const;
 

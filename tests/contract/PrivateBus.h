@@ -19,9 +19,11 @@ public:
     PrivateBus()
     {
         const QString configuration = m_folder.filePath(QStringLiteral("bus.conf"));
-        if (!writeFile(configuration, "<busconfig><type>session</type><listen>unix:tmpdir=/tmp</listen>"
-                                      "<policy context=\"default\"><allow send_destination=\"*\"/>"
-                                      "<allow eavesdrop=\"false\"/><allow own=\"*\"/></policy></busconfig>"))
+        if (!writeFile(configuration,
+                       "<busconfig><type>session</type><listen>unix:tmpdir=" + m_folder.path().toUtf8() +
+                           "</listen><policy context=\"default\">"
+                           "<allow send_destination=\"*\"/><allow own=\"*\"/>"
+                           "</policy></busconfig>"))
             return;
         m_daemon.start(QStringLiteral("dbus-daemon"),
                        {QStringLiteral("--nofork"), QStringLiteral("--nopidfile"),
