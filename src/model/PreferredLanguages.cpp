@@ -32,8 +32,8 @@ QString languageAndRegion(const QString &locale)
 
 QStringList preferredLanguages(const QProcessEnvironment &environment)
 {
-    const QString locale = languageAndRegion(messageLocale(environment));
-    if (locale.isEmpty())
+    const QString locale = messageLocale(environment);
+    if (locale.isEmpty() || locale == "C"_L1 || locale == "POSIX"_L1)
         return {};
     QStringList languages;
     for (const QString &entry : environment.value(u"LANGUAGE"_s).split(u':', Qt::SkipEmptyParts)) {
@@ -41,7 +41,9 @@ QStringList preferredLanguages(const QProcessEnvironment &environment)
         if (!language.isEmpty())
             languages.append(language);
     }
-    languages.append(locale);
+    const QString language = languageAndRegion(locale);
+    if (!language.isEmpty())
+        languages.append(language);
     return languages;
 }
 

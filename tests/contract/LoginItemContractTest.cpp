@@ -56,8 +56,7 @@ public:
 
     void refuse() override
     {
-        // The state moves to where only its reading is possible: below a file nobody can write, whoever it
-        // is.
+        // Below a file nobody can write, not even the superuser; what is on stays on for everybody.
         const bool enabled = m_loginItem.isEnabled();
         QDir(m_folder.filePath(u"home"_s)).removeRecursively();
         EXPECT_TRUE(writeFile(m_folder.filePath(u"home"_s), "a file"));

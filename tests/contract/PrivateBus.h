@@ -22,7 +22,7 @@ public:
         if (!writeFile(configuration,
                        "<busconfig><type>session</type><listen>unix:tmpdir=" + m_folder.path().toUtf8() +
                            "</listen><policy context=\"default\">"
-                           "<allow send_destination=\"*\"/><allow own=\"*\"/>"
+                           "<allow send_destination=\"*\"/><allow receive_sender=\"*\"/><allow own=\"*\"/>"
                            "</policy></busconfig>"))
             return;
         m_daemon.start(QStringLiteral("dbus-daemon"),

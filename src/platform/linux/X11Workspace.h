@@ -50,9 +50,8 @@ private:
     ApplicationNames m_names;
     QHash<WindowIdentity, QString> m_knownNames;
     std::optional<RunningApplication> m_frontmost;
-    quint64 m_reading =
-        0; ///< counts what was announced, so that a late answer about an earlier window is dropped
-    quint64 m_activation = 0; ///< counts what came to the front, so that a name found late is dropped
+    quint64 m_reading = 0;    ///< counts announcements, so that a late answer to an earlier one is dropped
+    quint64 m_activation = 0; ///< counts what came to the front, so that a name found too late is dropped
     QThreadPool m_nameSearch;
 };
 

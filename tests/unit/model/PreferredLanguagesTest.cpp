@@ -89,4 +89,9 @@ TEST(PreferredLanguages, IgnoreTheListInTheLocaleC)
     EXPECT_EQ(languagesIn({{u"LANGUAGE"_s, u"cs_CZ"_s}}), QStringList());
 }
 
+TEST(PreferredLanguages, HeedTheListInALocaleThatOnlyNamesAnEncoding)
+{
+    EXPECT_EQ(languagesIn({{u"LANGUAGE"_s, u"cs_CZ"_s}, {u"LANG"_s, u"C.UTF-8"_s}}), QStringList(u"cs-CZ"_s));
+}
+
 } // namespace keyvora
