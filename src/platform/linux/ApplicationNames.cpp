@@ -49,6 +49,22 @@ int rank(const DesktopEntry &entry, const QString &id, const WindowIdentity &ide
     return noMatch;
 }
 
+/// The desktop entries below a folder in a fixed order, so that of equally good ones the same is always
+/// taken.
+QStringList entryFiles(const QString &folder, int &remaining)
+{
+    QStringList paths;
+    QDirIterator files(folder, QDir::Files, QDirIterator::Subdirectories);
+    while (files.hasNext() && remaining-- > 0) {
+        const QString path = files.next();
+        // Compared by hand: a name filter would bring in the regular expression engine for good.
+        if (path.endsWith(suffix))
+            paths.append(path);
+    }
+    paths.sort();
+    return paths;
+}
+
 } // namespace
 
 ApplicationNames::ApplicationNames(QStringList dataDirs, QStringList languages)
@@ -65,12 +81,7 @@ QString ApplicationNames::find(const WindowIdentity &identity) const
     int remaining = maximumEntries;
     for (const QString &dataDir : m_dataDirs) {
         const QDir applications(dataDir + u"/applications"_s);
-        QDirIterator files(applications.path(), QDir::Files, QDirIterator::Subdirectories);
-        while (files.hasNext() && remaining-- > 0) {
-            const QString path = files.next();
-            // Compared by hand: a name filter would bring in the regular expression engine for good.
-            if (!path.endsWith(suffix))
-                continue;
+        for (const QString &path : entryFiles(applications.path(), remaining)) {
             const QString id = applications.relativeFilePath(path).chopped(suffix.size()).replace(u'/', u'-');
             if (seenIds.contains(id))
                 continue; // the user's own entry stands for the system's

@@ -94,6 +94,15 @@ TEST(ApplicationNames, FindTheBestOfAllEntriesThatFit)
     EXPECT_EQ(dirs.find(editorWindow), QString());
 }
 
+TEST(ApplicationNames, TakeTheFirstByFileNameOfEquallyGoodEntries)
+{
+    DataDirs dirs;
+    for (const auto *file : {"c", "a", "d", "b"})
+        dirs.addSystem(QString::fromLatin1(file) + u".desktop"_s,
+                       QByteArray("StartupWMClass=Editor\nName=Editor ") + file + '\n');
+    EXPECT_EQ(dirs.find(editorWindow), u"Editor a"_s);
+}
+
 TEST(ApplicationNames, DoNotDependOnCase)
 {
     DataDirs dirs;
