@@ -7,6 +7,9 @@ import QtQuick
 Rectangle {
     id: root
 
+    readonly property color firstGlow: Theme.firstGlow
+    readonly property color secondGlow: Theme.secondGlow
+
     color: Theme.base
     clip: true
 
@@ -17,7 +20,7 @@ Rectangle {
         y: 30 - radius
         width: 2 * radius
         height: 2 * radius
-        source: "image://glow/" + Theme.firstGlow
+        source: "image://glow/" + root.firstGlow.r + "/" + root.firstGlow.g + "/" + root.firstGlow.b + "/" + root.firstGlow.a
     }
 
     Image {
@@ -27,6 +30,6 @@ Rectangle {
         y: root.height - 10 - radius
         width: 2 * radius
         height: 2 * radius
-        source: "image://glow/" + Theme.secondGlow
+        source: "image://glow/" + root.secondGlow.r + "/" + root.secondGlow.g + "/" + root.secondGlow.b + "/" + root.secondGlow.a
     }
 }

@@ -24,6 +24,15 @@ QImage transparentImage(const QSize &size)
     return image;
 }
 
+/// "red/green/blue/opacity", each from 0 to 1.
+QColor colorFromParts(const QString &parts)
+{
+    const auto part = [&](int index) {
+        return std::clamp(parts.section(u'/', index, index).toFloat(), 0.0F, 1.0F);
+    };
+    return QColor::fromRgbF(part(0), part(1), part(2), part(3));
+}
+
 QSize sizeOr(const QSize &requested, int fallback)
 {
     return requested.width() > 0 && requested.height() > 0 ? requested : QSize(fallback, fallback);
@@ -98,7 +107,7 @@ QImage SymbolImageProvider::requestImage(const QString &id, QSize *size, const Q
     QPainter painter(&image);
     renderer.render(&painter);
     painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
-    painter.fillRect(image.rect(), QColor(id.section(u'/', 1)));
+    painter.fillRect(image.rect(), colorFromParts(id.section(u'/', 1)));
     *size = image.size();
     return image;
 }
@@ -112,7 +121,7 @@ QImage GlowImageProvider::requestImage(const QString &id, QSize *size, const QSi
 {
     constexpr int defaultSize = 560;
     QImage image = transparentImage(sizeOr(requestedSize, defaultSize));
-    const QColor color(id);
+    const QColor color = colorFromParts(id);
     const QPointF center = QRectF(image.rect()).center();
     const qreal radius = center.x();
     QRandomGenerator noise(1);

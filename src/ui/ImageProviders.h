@@ -7,7 +7,7 @@
 
 namespace keyvora {
 
-/// "image://symbol/<name>/<#aarrggbb>": a symbol tinted with a colour, at the size that is asked for.
+/// "image://symbol/<name>/<red>/<green>/<blue>/<opacity>": a symbol tinted with a colour, at the size that is asked for.
 class SymbolImageProvider : public QQuickImageProvider
 {
 public:
@@ -15,7 +15,7 @@ public:
     QImage requestImage(const QString &id, QSize *size, const QSize &requestedSize) override;
 };
 
-/// "image://glow/<#aarrggbb>": a soft disc of a colour that fades out towards its edge.
+/// "image://glow/<red>/<green>/<blue>/<opacity>": a soft disc of a colour that fades out towards its edge.
 class GlowImageProvider : public QQuickImageProvider
 {
 public:

@@ -17,5 +17,6 @@ Image {
     height: root.size
     sourceSize.width: root.pixels
     sourceSize.height: root.pixels
-    source: root.name.length > 0 ? "image://symbol/" + root.name + "/" + root.color : ""
+    // By its parts: Qt 6.4 reads freed memory when compiled code turns a colour into text.
+    source: root.name.length > 0 ? "image://symbol/" + root.name + "/" + root.color.r + "/" + root.color.g + "/" + root.color.b + "/" + root.color.a : ""
 }
