@@ -7,7 +7,8 @@
 
 namespace keyvora {
 
-/// "image://symbol/<name>/<red>/<green>/<blue>/<opacity>": a symbol tinted with a colour, at the size that is asked for.
+/// "image://symbol/<name>/<red>/<green>/<blue>/<opacity>": a symbol tinted with a colour, at the size that is
+/// asked for.
 class SymbolImageProvider : public QQuickImageProvider
 {
 public:
