@@ -5,7 +5,10 @@
 
 #include <QGuiApplication>
 #include <QKeyEvent>
+#include <QQmlEngine>
 #include <QQuickItem>
+
+#include <malloc.h>
 
 namespace keyvora {
 
@@ -39,6 +42,14 @@ void KeyvoraView::bringToFront(const QString &activationToken)
     show();
     raise();
     requestActivate();
+}
+
+void KeyvoraView::hideEvent(QHideEvent *event)
+{
+    QQuickView::hideEvent(event);
+    releaseResources();
+    engine()->collectGarbage();
+    malloc_trim(0);
 }
 
 bool KeyvoraView::event(QEvent *event)

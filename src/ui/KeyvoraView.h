@@ -22,6 +22,8 @@ public:
 
 protected:
     bool event(QEvent *event) override;
+    /// A closed window is kept, but not what it can draw again.
+    void hideEvent(QHideEvent *event) override;
 
 private:
     void restoreFocus();

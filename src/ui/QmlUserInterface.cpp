@@ -19,8 +19,6 @@
 #include <QQuickItem>
 #include <QScreen>
 
-#include <malloc.h>
-
 namespace keyvora {
 
 using namespace Qt::Literals::StringLiterals;
@@ -99,16 +97,6 @@ void QmlUserInterface::makeMainWindow()
                                content->property("minimumHeight").toInt());
     m_mainWindow->setMinimumSize(minimumWindowSize.expandedTo(contentMinimum));
     m_mainWindowFrame = std::make_unique<WindowFrame>(*m_mainWindow, m_context.windowFrames, "MainWindow"_L1);
-
-    QObject::connect(m_mainWindow.get(), &QWindow::visibleChanged, m_mainWindow.get(),
-                     [this](bool isVisible) {
-                         if (isVisible)
-                             return;
-                         // A closed window is kept, but not what it can draw again.
-                         m_mainWindow->releaseResources();
-                         m_engine.collectGarbage();
-                         malloc_trim(0);
-                     });
 }
 
 void QmlUserInterface::togglePanel(QPoint position)
