@@ -32,7 +32,7 @@ Rectangle {
     color: Theme.sidebarGlass
     Accessible.role: Accessible.MenuBar
     onFocusItemChanged: {
-        if (root.focusItem !== null && !root.isActive && !titles.activeFocus)
+        if (root.focusItem !== null && !root.isActive)
             root.editedText = root.focusItem as TextInput;
     }
 
@@ -59,100 +59,93 @@ Rectangle {
         height: Theme.hairlineWidth
         color: Theme.hairline
     }
-    FocusScope {
-        id: titles
+    Row {
         x: 12
         y: 2
-        width: row.width
-        height: row.height
 
-        Row {
-            id: row
+        AppMenuTitle {
+            id: appTitle
+            isBarActive: root.isActive
+            onRequested: root.present(appTitle)
 
-            AppMenuTitle {
-                id: appTitle
-                isBarActive: root.isActive
-                onRequested: root.present(appTitle)
+            dropDown: AppMenuPopup {
+                title: "Keyvora"
+                onNextRequested: root.present(editTitle)
+                onPreviousRequested: root.present(windowTitle)
 
-                dropDown: AppMenuPopup {
-                    title: "Keyvora"
-                    onNextRequested: root.present(editTitle)
-                    onPreviousRequested: root.present(windowTitle)
-
-                    AppMenuItem {
-                        text: root.czech ? "O aplikaci Keyvora" : "About Keyvora"
-                        onTriggered: root.aboutRequested()
-                    }
-                    T.MenuSeparator {
-                        padding: 4
-                        contentItem: Rectangle {
-                            implicitHeight: Theme.hairlineWidth
-                            color: Theme.hairline
-                        }
-                    }
-                    AppMenuItem {
-                        text: root.czech ? "Ukončit Keyvora" : "Quit Keyvora"
-                        keysText: "Ctrl+Q"
-                        onTriggered: root.appMenu.quitRequested()
+                AppMenuItem {
+                    text: root.czech ? "O aplikaci Keyvora" : "About Keyvora"
+                    onTriggered: root.aboutRequested()
+                }
+                T.MenuSeparator {
+                    padding: 4
+                    contentItem: Rectangle {
+                        implicitHeight: Theme.hairlineWidth
+                        color: Theme.hairline
                     }
                 }
-            }
-            AppMenuTitle {
-                id: editTitle
-                isBarActive: root.isActive
-                onRequested: root.present(editTitle)
-
-                dropDown: AppMenuPopup {
-                    title: root.czech ? "Úpravy" : "Edit"
-                    onNextRequested: root.present(windowTitle)
-                    onPreviousRequested: root.present(appTitle)
-
-                    AppMenuItem {
-                        text: root.czech ? "Vyjmout" : "Cut"
-                        keysText: "Ctrl+X"
-                        enabled: root.editedText !== null
-                        onTriggered: root.editedText.cut()
-                    }
-                    AppMenuItem {
-                        text: root.czech ? "Kopírovat" : "Copy"
-                        keysText: "Ctrl+C"
-                        enabled: root.editedText !== null
-                        onTriggered: root.editedText.copy()
-                    }
-                    AppMenuItem {
-                        text: root.czech ? "Vložit" : "Paste"
-                        keysText: "Ctrl+V"
-                        enabled: root.editedText !== null
-                        onTriggered: root.editedText.paste()
-                    }
-                    AppMenuItem {
-                        text: root.czech ? "Vybrat vše" : "Select All"
-                        keysText: "Ctrl+A"
-                        enabled: root.editedText !== null
-                        onTriggered: root.editedText.selectAll()
-                    }
+                AppMenuItem {
+                    text: root.czech ? "Ukončit Keyvora" : "Quit Keyvora"
+                    keysText: "Ctrl+Q"
+                    onTriggered: root.appMenu.quitRequested()
                 }
             }
-            AppMenuTitle {
-                id: windowTitle
-                isBarActive: root.isActive
-                onRequested: root.present(windowTitle)
+        }
+        AppMenuTitle {
+            id: editTitle
+            isBarActive: root.isActive
+            onRequested: root.present(editTitle)
 
-                dropDown: AppMenuPopup {
-                    title: root.czech ? "Okno" : "Window"
-                    onNextRequested: root.present(appTitle)
-                    onPreviousRequested: root.present(editTitle)
+            dropDown: AppMenuPopup {
+                title: root.czech ? "Úpravy" : "Edit"
+                onNextRequested: root.present(windowTitle)
+                onPreviousRequested: root.present(appTitle)
 
-                    AppMenuItem {
-                        text: root.czech ? "Zavřít" : "Close"
-                        keysText: "Ctrl+W"
-                        onTriggered: root.Window.window.close()
-                    }
-                    AppMenuItem {
-                        text: root.czech ? "Minimalizovat" : "Minimize"
-                        keysText: "Ctrl+M"
-                        onTriggered: root.Window.window.showMinimized()
-                    }
+                AppMenuItem {
+                    text: root.czech ? "Vyjmout" : "Cut"
+                    keysText: "Ctrl+X"
+                    enabled: root.editedText !== null
+                    onTriggered: root.editedText.cut()
+                }
+                AppMenuItem {
+                    text: root.czech ? "Kopírovat" : "Copy"
+                    keysText: "Ctrl+C"
+                    enabled: root.editedText !== null
+                    onTriggered: root.editedText.copy()
+                }
+                AppMenuItem {
+                    text: root.czech ? "Vložit" : "Paste"
+                    keysText: "Ctrl+V"
+                    enabled: root.editedText !== null
+                    onTriggered: root.editedText.paste()
+                }
+                AppMenuItem {
+                    text: root.czech ? "Vybrat vše" : "Select All"
+                    keysText: "Ctrl+A"
+                    enabled: root.editedText !== null
+                    onTriggered: root.editedText.selectAll()
+                }
+            }
+        }
+        AppMenuTitle {
+            id: windowTitle
+            isBarActive: root.isActive
+            onRequested: root.present(windowTitle)
+
+            dropDown: AppMenuPopup {
+                title: root.czech ? "Okno" : "Window"
+                onNextRequested: root.present(appTitle)
+                onPreviousRequested: root.present(editTitle)
+
+                AppMenuItem {
+                    text: root.czech ? "Zavřít" : "Close"
+                    keysText: "Ctrl+W"
+                    onTriggered: root.Window.window.close()
+                }
+                AppMenuItem {
+                    text: root.czech ? "Minimalizovat" : "Minimize"
+                    keysText: "Ctrl+M"
+                    onTriggered: root.Window.window.showMinimized()
                 }
             }
         }

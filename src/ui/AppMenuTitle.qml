@@ -39,10 +39,5 @@ T.MenuItem {
     background: Rectangle {
         radius: 6
         color: root.hovered || root.dropDown.visible ? Theme.softAccent : "transparent"
-
-        FocusRing {
-            control: root
-            gap: -1
-        }
     }
 }
