@@ -7,6 +7,7 @@
 #include "model/Defaults.h"
 #include "model/DefaultsKeys.h"
 #include "model/Localization.h"
+#include "model/MenuShortcutImporter.h"
 #include "model/ShortcutLibrary.h"
 #include "platform/LoginItem.h"
 
@@ -23,6 +24,7 @@ AppModel::AppModel(Dependencies dependencies, QObject *parent)
     , m_services(std::move(dependencies))
     , m_activeApp(u"Mac"_s)
     , m_launchAtLogin(m_services.loginItem.isEnabled())
+    , m_importer(std::make_unique<MenuShortcutImporter>(m_services.accessibility))
 {
     if (!m_services.makeUuid)
         m_services.makeUuid = [] {

@@ -3,8 +3,10 @@
 
 #pragma once
 
+#include "model/DisplayableShortcut.h"
 #include "model/MenuUseObserver.h"
 #include "model/ModifierFilter.h"
+#include "model/PracticeDraw.h"
 #include "model/PracticeStat.h"
 #include "model/Shortcut.h"
 #include "model/ShortcutListModel.h"
@@ -12,6 +14,7 @@
 #include "platform/PlatformError.h"
 #include "platform/Workspace.h"
 
+#include <QDateTime>
 #include <QHash>
 #include <QLocale>
 #include <QObject>
@@ -23,8 +26,11 @@
 
 namespace keyvora {
 
+class Accessibility;
 class Defaults;
 class LoginItem;
+class MenuShortcutImporter;
+struct Backup;
 
 /// How far an import has come: the application being read, counted from 1, of how many.
 struct ImportProgress
@@ -33,6 +39,19 @@ struct ImportProgress
     int total = 0;
 
     friend bool operator==(const ImportProgress &, const ImportProgress &) = default;
+};
+
+/// Shortcuts of the user's own that were deleted together.
+struct DeletedCustom
+{
+    struct Entry
+    {
+        qsizetype position = 0; ///< in the list before the deletion
+        Shortcut shortcut = {};
+    };
+
+    QList<Entry> entries = {}; ///< by position
+    bool wasFavorite = false;
 };
 
 /// The state of the program: what the library shows, the user's own data, and the switches. Everything that
@@ -45,10 +64,18 @@ class AppModel : public QObject
     Q_PROPERTY(QStringList modifierTokens READ modifierTokens NOTIFY modifierFiltersChanged)
     Q_PROPERTY(QString activeApp READ activeApp NOTIFY activeAppChanged)
     Q_PROPERTY(QString importMessage READ importMessageText NOTIFY importMessageChanged)
+    Q_PROPERTY(bool isImporting READ isImporting NOTIFY isImportingChanged)
+    Q_PROPERTY(int importCurrent READ importCurrent NOTIFY importProgressChanged)
+    Q_PROPERTY(int importTotal READ importTotal NOTIFY importProgressChanged)
+    Q_PROPERTY(QString suggestionId READ suggestionId NOTIFY latestSuggestionChanged)
+    Q_PROPERTY(QString suggestionTitle READ suggestionTitle NOTIFY latestSuggestionChanged)
+    Q_PROPERTY(QStringList suggestionKeys READ suggestionKeys NOTIFY latestSuggestionChanged)
+    Q_PROPERTY(QString suggestionReason READ latestSuggestionReason NOTIFY latestSuggestionReasonChanged)
     Q_PROPERTY(keyvora::ShortcutListModel *filteredModel READ filteredModel CONSTANT)
     Q_PROPERTY(keyvora::ShortcutListModel *contextualModel READ contextualModel CONSTANT)
 
 public:
+    using Backup = keyvora::Backup;
     using SmartObserverFactory =
         std::function<std::unique_ptr<MenuUseObserver>(MenuUseObserver::MenuActionHandler)>;
 
@@ -58,9 +85,12 @@ public:
         Defaults &defaults;
         Workspace &workspace;
         LoginItem &loginItem;
+        Accessibility &accessibility;
         SmartObserverFactory makeSmartObserver;
         QLocale locale = QLocale::system();     ///< whose rules compare texts
         std::function<QString()> makeUuid = {}; ///< absent: random ones
+        std::function<QDateTime()> now = &QDateTime::currentDateTime;
+        UniformRandom uniformRandom = systemRandom();
     };
 
     /// Restores what is stored, reads the frontmost application and follows it from then on.
@@ -80,10 +110,23 @@ public:
     [[nodiscard]] bool learningModeEnabled() const { return m_learningModeEnabled; }
     [[nodiscard]] const std::optional<Shortcut> &latestSuggestion() const { return m_latestSuggestion; }
     [[nodiscard]] const QString &latestSuggestionReason() const { return m_latestSuggestionReason; }
+    // The latest suggestion by its parts, as it may be shown; empty when there is none.
+    [[nodiscard]] QString suggestionId() const { return m_latestSuggestion.value_or(Shortcut()).id; }
+    [[nodiscard]] QString suggestionTitle() const
+    {
+        return displayableTitle(m_latestSuggestion.value_or(Shortcut()));
+    }
+    [[nodiscard]] QStringList suggestionKeys() const
+    {
+        return displayableKeys(m_latestSuggestion.value_or(Shortcut()));
+    }
     [[nodiscard]] const std::optional<QString> &importMessage() const { return m_importMessage; }
     [[nodiscard]] QString importMessageText() const { return m_importMessage.value_or(QString()); }
-    [[nodiscard]] bool isImporting() const { return m_isImporting; }
+    [[nodiscard]] bool isImporting() const { return m_importsUnderWay > 0; }
     [[nodiscard]] std::optional<ImportProgress> importProgress() const { return m_importProgress; }
+    /// The progress by its parts; 0 while there is none.
+    [[nodiscard]] int importCurrent() const { return m_importProgress.value_or(ImportProgress()).current; }
+    [[nodiscard]] int importTotal() const { return m_importProgress.value_or(ImportProgress()).total; }
     [[nodiscard]] int practiceIndex() const { return m_practiceIndex; }
     [[nodiscard]] int practiceScore() const { return m_practiceScore; }
     [[nodiscard]] bool practiceAnswered() const { return m_practiceAnswered; }
@@ -98,15 +141,28 @@ public:
     [[nodiscard]] QList<Shortcut> filtered() const;
     /// At most four shortcuts of the active application, most used first; of all when it has none.
     [[nodiscard]] QList<Shortcut> contextual() const;
+    /// The time by which days are told.
+    [[nodiscard]] QDateTime now() const { return m_services.now(); }
+    /// The shortcut of today, by local time.
+    [[nodiscard]] Shortcut dailyShortcut() const;
+    /// Draws at most `count` shortcuts to practise, by the statistics as they are now.
+    [[nodiscard]] QList<Shortcut> weightedPracticeItems(qsizetype count) const;
     /// The first shortcut with the same set of keys whose scope overlaps that of an application; an empty
     /// `app` stands for the whole system. The shortcut with the id `excluding` does not count.
     [[nodiscard]] std::optional<Shortcut> conflict(const QStringList &keys, const QString &app,
                                                    const std::optional<QString> &excluding = {}) const;
 
+    /// What the user can save into a file.
+    [[nodiscard]] Backup backup() const;
+    /// The same as bytes; empty when it is beyond the bounds of a backup.
+    [[nodiscard]] QByteArray exportBackup() const;
+
     /// `filtered` and `contextual` as item models that follow them. Made at the first call, owned by the
     /// model.
     ShortcutListModel *filteredModel();
     ShortcutListModel *contextualModel();
+    /// An empty list of shortcuts that knows the favourites and the language, now and later.
+    [[nodiscard]] ShortcutListModel *makeListModel(QObject *parent) const;
 
     void setSearch(const QString &search);
     void setSelection(const SidebarSelection &selection);
@@ -114,6 +170,28 @@ public:
     /// The same by key token; tokens of no filter are ignored.
     Q_INVOKABLE void toggleModifierToken(const QString &token);
     Q_INVOKABLE void clearModifiers();
+
+    /// Makes the library show this shortcut: all sections, no filter, no search.
+    Q_INVOKABLE void revealShortcut(const QString &shortcutId);
+
+    // Both imports tell their outcome in `importMessage`, and may run beside each other.
+    /// Imports the menu of the active application.
+    Q_INVOKABLE void importFrontmostMenu();
+    /// Imports the menus of all ordinary running applications, one after another.
+    Q_INVOKABLE void importAllRunningApps();
+
+    /// Adds what the backup has and the model has not: own shortcuts with ids that no own shortcut has, in
+    /// the backup's order, and favourites. False, and nothing changes, when both together are beyond the
+    /// bounds of a backup.
+    [[nodiscard]] bool mergeBackup(const Backup &backup);
+    /// The same with what `exportBackup` gave. False, and nothing changes, when it cannot be read.
+    [[nodiscard]] bool importBackup(const QByteArray &json);
+
+    /// Counts one answer to a shortcut of the quiz, and stores that at once.
+    void recordPracticeResult(const QString &shortcutId, bool correct);
+    void setPracticeIndex(int index);
+    void setPracticeScore(int score);
+    void setPracticeAnswered(bool answered);
 
     void setSmartSuggestions(bool enabled);
     void setLearningMode(bool enabled);
@@ -126,8 +204,11 @@ public:
     void addCustom(const QString &title, const QStringList &keys, Shortcut::Category category,
                    const QString &app, const QString &detail);
     /// Removes every own shortcut with this id. The stored favourites keep the id until they are next
-    /// written.
-    void deleteCustom(const Shortcut &shortcut);
+    /// written. What it returns undoes it.
+    DeletedCustom deleteCustom(const Shortcut &shortcut);
+    /// Puts back what was deleted, each shortcut where it was or, where the list has become too short for
+    /// that, at its end. A backup may have brought it back meanwhile; then it stays as it is.
+    void restoreCustom(const DeletedCustom &deleted);
     /// Counts a menu command that was chosen with the mouse towards the first shortcut whose title contains
     /// it or is contained in it, and suggests that shortcut from the second time on, in learning mode at
     /// once.
@@ -136,6 +217,8 @@ public:
 signals:
     void searchChanged();
     void selectionChanged();
+    /// The library shows this shortcut now and should bring it into view.
+    void shortcutRevealed(const QString &shortcutId);
     void modifierFiltersChanged();
     void activeAppChanged();
     void customShortcutsChanged();
@@ -155,11 +238,20 @@ signals:
     void practiceStatsChanged();
 
 private:
+    struct RunningAppsImport;
+
     void restore();
     void applicationActivated(const RunningApplication &application);
     void updateSmartObserver();
     void saveFavorites();
     void saveCustomShortcuts();
+    void importNextApp(const std::shared_ptr<RunningAppsImport> &import);
+    void finishImport(const RunningAppsImport &import);
+    void addImported(const QList<Shortcut> &shortcuts);
+    void setImportMessage(const QString &message);
+    void setImportProgress(const std::optional<ImportProgress> &progress);
+    void beginImport();
+    void endImport();
     [[nodiscard]] bool isInSection(const Shortcut &shortcut) const;
     [[nodiscard]] bool holdsModifiers(const Shortcut &shortcut) const;
 
@@ -175,7 +267,7 @@ private:
     std::optional<Shortcut> m_latestSuggestion;
     QString m_latestSuggestionReason;
     std::optional<QString> m_importMessage;
-    bool m_isImporting = false;
+    int m_importsUnderWay = 0;
     std::optional<ImportProgress> m_importProgress;
     int m_practiceIndex = 0;
     int m_practiceScore = 0;
@@ -185,6 +277,7 @@ private:
     QHash<QString, qint64> m_usageCounts;
     QHash<QString, PracticeStat> m_practiceStats;
     std::unique_ptr<MenuUseObserver> m_smartObserver;
+    std::unique_ptr<MenuShortcutImporter> m_importer;
     ShortcutListModel *m_filteredModel = nullptr;
     ShortcutListModel *m_contextualModel = nullptr;
 };

@@ -76,30 +76,34 @@ QStringList AppModel::modifierTokens() const
     return tokens;
 }
 
+ShortcutListModel *AppModel::makeListModel(QObject *parent) const
+{
+    auto *list = new ShortcutListModel(parent);
+    list->setFavorites(m_favorites);
+    connect(this, &AppModel::favoritesChanged, list, [this, list] { list->setFavorites(m_favorites); });
+    connect(&Localization::shared(), &Localization::languageChanged, list,
+            &ShortcutListModel::languageChanged);
+    return list;
+}
+
 ShortcutListModel *AppModel::filteredModel()
 {
     if (m_filteredModel != nullptr)
         return m_filteredModel;
-    m_filteredModel = new ShortcutListModel(this);
+    m_filteredModel = makeListModel(this);
     const auto update = [this] {
         m_filteredModel->setShortcuts(filtered());
     };
-    const auto updateFavorites = [this, update] {
-        m_filteredModel->setFavorites(m_favorites);
-        if (m_selection.kind == SidebarSelection::Kind::favorites)
-            update();
-    };
     update();
-    m_filteredModel->setFavorites(m_favorites);
     connect(this, &AppModel::searchChanged, m_filteredModel, update);
     connect(this, &AppModel::selectionChanged, m_filteredModel, update);
     connect(this, &AppModel::modifierFiltersChanged, m_filteredModel, update);
     connect(this, &AppModel::customShortcutsChanged, m_filteredModel, update);
-    connect(this, &AppModel::favoritesChanged, m_filteredModel, updateFavorites);
-    connect(&Localization::shared(), &Localization::languageChanged, m_filteredModel, [this, update] {
-        update();
-        m_filteredModel->languageChanged();
+    connect(this, &AppModel::favoritesChanged, m_filteredModel, [this, update] {
+        if (m_selection.kind == SidebarSelection::Kind::favorites)
+            update();
     });
+    connect(&Localization::shared(), &Localization::languageChanged, m_filteredModel, update);
     return m_filteredModel;
 }
 
@@ -107,21 +111,15 @@ ShortcutListModel *AppModel::contextualModel()
 {
     if (m_contextualModel != nullptr)
         return m_contextualModel;
-    m_contextualModel = new ShortcutListModel(this);
+    m_contextualModel = makeListModel(this);
     const auto update = [this] {
         m_contextualModel->setShortcuts(contextual());
     };
     update();
-    m_contextualModel->setFavorites(m_favorites);
     connect(this, &AppModel::activeAppChanged, m_contextualModel, update);
     connect(this, &AppModel::usageCountsChanged, m_contextualModel, update);
     connect(this, &AppModel::customShortcutsChanged, m_contextualModel, update);
-    connect(this, &AppModel::favoritesChanged, m_contextualModel,
-            [this] { m_contextualModel->setFavorites(m_favorites); });
-    connect(&Localization::shared(), &Localization::languageChanged, m_contextualModel, [this, update] {
-        update();
-        m_contextualModel->languageChanged();
-    });
+    connect(&Localization::shared(), &Localization::languageChanged, m_contextualModel, update);
     return m_contextualModel;
 }
 
@@ -154,6 +152,14 @@ void AppModel::clearModifiers()
 {
     if (assign(m_modifierFilters, {}))
         emit modifierFiltersChanged();
+}
+
+void AppModel::revealShortcut(const QString &shortcutId)
+{
+    setSearch({});
+    clearModifiers();
+    setSelection({.kind = SidebarSelection::Kind::all});
+    emit shortcutRevealed(shortcutId);
 }
 
 } // namespace keyvora

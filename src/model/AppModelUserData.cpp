@@ -5,13 +5,13 @@
 
 #include "model/AppModel.h"
 #include "model/Assign.h"
+#include "model/CountUp.h"
 #include "model/Defaults.h"
 #include "model/DefaultsKeys.h"
 #include "model/Localization.h"
 #include "model/TextMatching.h"
 
 #include <algorithm>
-#include <limits>
 
 namespace keyvora {
 
@@ -32,11 +32,15 @@ std::optional<Shortcut> AppModel::conflict(const QStringList &keys, const QStrin
         return std::nullopt;
     const QSet<QString> proposedKeys(keys.begin(), keys.end());
     const QString proposedApp = app.trimmed();
+    // Most shortcuts are told apart without a set of their own, of which a library would need thousands.
+    const auto hasSameKeys = [&](const QStringList &others) {
+        return std::ranges::all_of(others, [&](const QString &key) { return proposedKeys.contains(key); }) &&
+               QSet<QString>(others.begin(), others.end()).size() == proposedKeys.size();
+    };
     for (const Shortcut &shortcut : allShortcuts()) {
         const bool overlaps =
             shortcut.apps.isEmpty() || proposedApp.isEmpty() || shortcut.apps.contains(proposedApp);
-        if (overlaps && excluding != shortcut.id &&
-            QSet<QString>(shortcut.keys.begin(), shortcut.keys.end()) == proposedKeys)
+        if (overlaps && excluding != shortcut.id && hasSameKeys(shortcut.keys))
             return shortcut;
     }
     return std::nullopt;
@@ -59,17 +63,41 @@ void AppModel::addCustom(const QString &title, const QStringList &keys, Shortcut
     emit customShortcutsChanged();
 }
 
-void AppModel::deleteCustom(const Shortcut &shortcut)
+DeletedCustom AppModel::deleteCustom(const Shortcut &shortcut)
 {
     // The parameter may be an element of the list that is changed here.
     const QString id = shortcut.id;
-    const auto removed = m_customShortcuts.removeIf([&](const Shortcut &custom) { return custom.id == id; });
-    const bool wasFavorite = m_favorites.remove(id);
+    DeletedCustom deleted;
+    for (qsizetype position = 0; position < m_customShortcuts.size(); ++position) {
+        if (m_customShortcuts[position].id == id)
+            deleted.entries.append({position, m_customShortcuts[position]});
+    }
+    m_customShortcuts.removeIf([&](const Shortcut &custom) { return custom.id == id; });
+    deleted.wasFavorite = m_favorites.remove(id);
     saveCustomShortcuts();
-    if (removed > 0)
+    if (!deleted.entries.isEmpty())
         emit customShortcutsChanged();
-    if (wasFavorite)
+    if (deleted.wasFavorite)
         emit favoritesChanged();
+    return deleted;
+}
+
+void AppModel::restoreCustom(const DeletedCustom &deleted)
+{
+    const auto isThere = [&](const Shortcut &custom) {
+        return custom.id == deleted.entries.constFirst().shortcut.id;
+    };
+    if (deleted.entries.isEmpty() || std::ranges::any_of(m_customShortcuts, isThere))
+        return;
+    for (const DeletedCustom::Entry &entry : deleted.entries)
+        m_customShortcuts.insert(std::min(entry.position, m_customShortcuts.size()), entry.shortcut);
+    saveCustomShortcuts();
+    emit customShortcutsChanged();
+    if (deleted.wasFavorite && !m_favorites.contains(deleted.entries.constFirst().shortcut.id)) {
+        m_favorites.insert(deleted.entries.constFirst().shortcut.id);
+        saveFavorites();
+        emit favoritesChanged();
+    }
 }
 
 void AppModel::recordMouseAction(const QString &title)
@@ -86,8 +114,7 @@ void AppModel::recordMouseAction(const QString &title)
         return;
 
     qint64 &count = m_usageCounts[matched->id];
-    if (count < std::numeric_limits<qint64>::max())
-        ++count;
+    countUp(count);
     const bool suggests = m_learningModeEnabled || count > 1;
     m_services.defaults.setIntegerMap(DefaultsKeys::usageCounts, m_usageCounts);
     emit usageCountsChanged();

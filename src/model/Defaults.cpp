@@ -6,13 +6,11 @@
 #include "model/JsonInteger.h"
 #include "platform/AtomicFile.h"
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 
-#include <algorithm>
 #include <utility>
 
 namespace keyvora {
@@ -20,29 +18,6 @@ namespace keyvora {
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-/// What a write that a crash interrupted has put behind the file's name and a dot.
-constexpr qsizetype temporarySuffixLength = 6;
-
-bool isSmallLetter(QChar character)
-{
-    return character >= u'a' && character <= u'z';
-}
-
-bool isCapitalLetter(QChar character)
-{
-    return character >= u'A' && character <= u'Z';
-}
-
-/// Whether this can only be drawn by lot. A word ("backup", "Before", "COPIED") may name a copy that the user
-/// made.
-bool isTemporarySuffix(QStringView suffix)
-{
-    return suffix.size() == temporarySuffixLength &&
-           std::ranges::all_of(suffix, [](QChar c) { return isSmallLetter(c) || isCapitalLetter(c); }) &&
-           std::ranges::any_of(suffix, isSmallLetter) &&
-           std::ranges::any_of(suffix.sliced(1), isCapitalLetter);
-}
 
 QJsonValue jsonContainer(const QByteArray &json)
 {
@@ -60,7 +35,7 @@ Defaults::Defaults(QString filePath, const Clock &clock)
     : m_filePath(std::move(filePath))
 {
     load(clock);
-    removeLeftovers();
+    removeLeftovers(m_filePath);
 }
 
 std::optional<QString> Defaults::text(QLatin1StringView key) const
@@ -200,18 +175,6 @@ bool Defaults::setAside(const Clock &clock) const
     return false;
 }
 
-void Defaults::removeLeftovers() const
-{
-    const QFileInfo info(m_filePath);
-    const QString prefix = info.fileName() + u'.';
-    QDir folder = info.dir();
-    // Compared by hand: name filters would bring in the regular expression engine for good.
-    for (const QString &name : folder.entryList(QDir::Files)) {
-        if (name.startsWith(prefix) && isTemporarySuffix(QStringView(name).sliced(prefix.size())))
-            folder.remove(name);
-    }
-}
-
 void Defaults::set(QLatin1StringView key, const QJsonValue &value)
 {
     if (m_isWritten && m_values.value(key) == value)
@@ -220,8 +183,21 @@ void Defaults::set(QLatin1StringView key, const QJsonValue &value)
     write();
 }
 
+void Defaults::changeTogether(const std::function<void()> &changes)
+{
+    m_defersWriting = true;
+    changes();
+    m_defersWriting = false;
+    if (std::exchange(m_hasDeferredWriting, false))
+        write();
+}
+
 void Defaults::write()
 {
+    if (m_defersWriting) {
+        m_hasDeferredWriting = true;
+        return;
+    }
     m_isWritten =
         m_mayWrite && replaceFile(m_filePath, QJsonDocument(m_values).toJson(QJsonDocument::Compact));
 }

@@ -50,10 +50,12 @@ public:
     void setData(QLatin1StringView key, const QByteArray &json);
     void remove(QLatin1StringView key);
 
+    /// Makes several changes with one write, so that the file holds all of them or none.
+    void changeTogether(const std::function<void()> &changes);
+
 private:
     void load(const Clock &clock);
     bool setAside(const Clock &clock) const;
-    void removeLeftovers() const;
     void set(QLatin1StringView key, const QJsonValue &value);
     void write();
 
@@ -61,6 +63,8 @@ private:
     QJsonObject m_values;
     bool m_mayWrite = true;   ///< false when a file that we could not read still lies in the way
     bool m_isWritten = false; ///< the file holds exactly these values
+    bool m_defersWriting = false;
+    bool m_hasDeferredWriting = false;
 };
 
 } // namespace keyvora

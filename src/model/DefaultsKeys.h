@@ -16,6 +16,9 @@ inline constexpr QLatin1StringView practiceStats{"practiceStats"};
 inline constexpr QLatin1StringView smartSuggestions{"smartSuggestions"};
 inline constexpr QLatin1StringView learningMode{"learningMode"};
 inline constexpr QLatin1StringView hasLaunchedBefore{"hasLaunchedBefore"};
+inline constexpr QLatin1StringView dismissedUpdateVersion{"Keyvora.dismissedUpdateVersion"};
+inline constexpr QLatin1StringView learningStreak{"learningStreak"};
+inline constexpr QLatin1StringView lastLearnedDay{"lastLearnedDay"};
 inline constexpr QLatin1StringView hasSeenOnboarding{"hasSeenOnboarding"};
 
 } // namespace keyvora::DefaultsKeys

@@ -7,6 +7,9 @@
 
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QStringList>
+
+#include <algorithm>
 
 namespace keyvora {
 
@@ -27,6 +30,19 @@ std::optional<QHash<QString, PracticeStat>> decodePracticeStats(const QByteArray
         stats.insert(entry.key(), {*seen, *wrong});
     }
     return stats;
+}
+
+QByteArray encodePracticeStats(const QHash<QString, PracticeStat> &stats)
+{
+    // The object keeps its keys sorted: in any other order each entry would move those after it.
+    QStringList ids = stats.keys();
+    std::ranges::sort(ids);
+    QJsonObject object;
+    for (const QString &id : ids) {
+        const PracticeStat stat = stats.value(id);
+        object.insert(id, QJsonObject{{u"seen"_s, stat.seen}, {u"wrong"_s, stat.wrong}});
+    }
+    return QJsonDocument(object).toJson(QJsonDocument::Compact);
 }
 
 } // namespace keyvora

@@ -23,4 +23,7 @@ struct PracticeStat
 /// Reads a UTF-8 JSON object from shortcut id to {"seen", "wrong"}; nothing when any part cannot be read.
 std::optional<QHash<QString, PracticeStat>> decodePracticeStats(const QByteArray &json);
 
+/// Writes what `decodePracticeStats` reads, compact.
+QByteArray encodePracticeStats(const QHash<QString, PracticeStat> &stats);
+
 } // namespace keyvora

@@ -3,7 +3,7 @@
 
 #include "model/ShortcutListModel.h"
 
-#include "platform/ForeignText.h"
+#include "model/DisplayableShortcut.h"
 
 #include <QHash>
 
@@ -19,10 +19,6 @@ constexpr qsizetype leaves = -1;
 /// A change that would take more steps than this is made in one piece from there on: those rows are far below
 /// what a window shows, and thousands of steps would keep the view busy for longer than a frame.
 constexpr qsizetype maximumSteps = 128;
-
-// What a card can show; imported titles can be any length.
-constexpr qsizetype maximumTitleLength = 200;
-constexpr qsizetype maximumDetailLength = 400;
 
 /// Lets everything behind the first `maximumSteps` interruptions of an otherwise equal order leave.
 void limitSteps(std::vector<qsizetype> &destinations, qsizetype newSize)
@@ -75,15 +71,15 @@ QVariant ShortcutListModel::data(const QModelIndex &index, int role) const
         return shortcut.id;
     case TitleRole:
     case Qt::DisplayRole:
-        return displayableForeignText(shortcut.title, maximumTitleLength);
+        return displayableTitle(shortcut);
     case KeysRole:
-        return shortcut.keys;
+        return displayableKeys(shortcut);
     case CategoryRole:
         return static_cast<int>(shortcut.category);
     case HeaderTextRole:
-        return displayableForeignText(headerText(shortcut), maximumTitleLength);
+        return displayableHeader(shortcut);
     case DetailRole:
-        return displayableForeignText(shortcut.detail, maximumDetailLength);
+        return displayableDetail(shortcut);
     case IsFavoriteRole:
         return m_favorites.contains(shortcut.id);
     default:

@@ -8,6 +8,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QPoint>
 #include <QString>
 
 #include <ostream>
@@ -37,4 +38,9 @@ inline void PrintTo(const QJsonObject &object, std::ostream *stream)
 inline void PrintTo(const QJsonValue &value, std::ostream *stream)
 {
     *stream << QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact).toStdString();
+}
+
+inline void PrintTo(QPoint point, std::ostream *stream)
+{
+    *stream << '(' << point.x() << ", " << point.y() << ')';
 }

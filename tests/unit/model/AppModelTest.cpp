@@ -324,8 +324,12 @@ TEST(SmartObserver, NeedNotExist)
     const Localization localization(defaults, {});
     FakeWorkspace workspace;
     FakeLoginItem loginItem;
-    AppModel model(
-        {.defaults = defaults, .workspace = workspace, .loginItem = loginItem, .makeSmartObserver = {}});
+    FakeAccessibility accessibility;
+    AppModel model({.defaults = defaults,
+                    .workspace = workspace,
+                    .loginItem = loginItem,
+                    .accessibility = accessibility,
+                    .makeSmartObserver = {}});
     model.setSmartSuggestions(false);
     model.setSmartSuggestions(true);
     EXPECT_TRUE(model.smartSuggestionsEnabled());

@@ -3,18 +3,26 @@
 
 #include "model/Defaults.h"
 #include "unit/QtPrinters.h"
-#include "unit/model/RecognisableContent.h"
+#include "unit/SmallDisk.h"
 
 #include <QDir>
 #include <QFile>
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QProcess>
-#include <QRegularExpression>
 #include <QTemporaryDir>
 
+#include <array>
+#include <atomic>
+#include <cmath>
+#include <csignal>
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <new>
 #include <random>
+#include <sys/mman.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 namespace keyvora {
 
@@ -22,43 +30,97 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int deadlineMilliseconds = 60'000;
+constexpr QLatin1StringView key{"lines"};
+constexpr qsizetype maximumLineCount = 60;
 
-/// The program that writes; this much longer than any wait it is allowed to live.
-void start(QProcess &writer, const QString &mode, const QString &path)
+/// The value that has this many lines; each says its number, so that a whole value is told from a torn one,
+/// and is long enough that most take several writes.
+QStringList lines(qsizetype count)
 {
-    writer.start(QStringLiteral(KEYVORA_DEFAULTS_WRITER), {mode, path}, QIODevice::ReadOnly);
-    ASSERT_TRUE(writer.waitForStarted(deadlineMilliseconds));
+    QStringList result;
+    for (qsizetype i = 1; i <= count; ++i)
+        result.append(QString::number(i) + QString(200 + i, QLatin1Char(static_cast<char>('a' + i % 26))));
+    return result;
 }
 
-/// Waits for one line of what the writer says; nothing when it stays silent.
-std::optional<qsizetype> nextReport(QProcess &writer)
+/// The number of lines that follows; it begins again at one.
+qsizetype nextLineCount(qsizetype count)
 {
-    while (!writer.canReadLine()) {
-        if (!writer.waitForReadyRead(deadlineMilliseconds))
-            return std::nullopt;
+    return count >= maximumLineCount ? 1 : count + 1;
+}
+
+/// What the writing process tells the test, in memory that both have: how many lines have the value that it
+/// stores now and the one that it stored last.
+struct Report
+{
+    std::atomic<qsizetype> begun = 0;
+    std::atomic<qsizetype> done = 0;
+};
+
+/// A report that processes share.
+class SharedReport
+{
+public:
+    SharedReport()
+        : m_memory(mmap(nullptr, sizeof(Report), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0))
+        , m_report(new (m_memory) Report)
+    {
     }
-    return writer.readLine().trimmed().toLongLong();
-}
+    ~SharedReport() { munmap(m_memory, sizeof(Report)); }
+    Q_DISABLE_COPY_MOVE(SharedReport)
 
-/// Kills the writer and returns the last number that it said, or the one before where it said nothing more.
-qsizetype killAndReadTheRest(QProcess &writer, qsizetype last)
+    [[nodiscard]] Report &operator*() const { return *m_report; }
+    [[nodiscard]] Report *operator->() const { return m_report; }
+
+private:
+    void *m_memory;
+    Report *m_report;
+};
+
+/// Stores one value after the other until it is killed, first the one that comes after what is stored. Says
+/// on the pipe that it begins.
+[[noreturn]] void storeForEver(const QString &path, Report &report, int pipe)
 {
-    writer.kill();
-    EXPECT_TRUE(writer.waitForFinished(deadlineMilliseconds));
-    EXPECT_EQ(writer.exitStatus(), QProcess::CrashExit);
-    // The very last line counts only when it arrived as a whole.
-    while (writer.canReadLine())
-        last = writer.readLine().trimmed().toLongLong();
-    return last;
+    Defaults defaults(path);
+    static_cast<void>(write(pipe, "x", 1));
+    for (qsizetype count = report.done;; report.done = count) {
+        count = nextLineCount(count);
+        report.begun = count;
+        defaults.setTextList(key, lines(count));
+    }
 }
 
-QJsonObject contentOf(const QString &path)
+/// Lets a process store until it is killed, that many microseconds after it has begun.
+void storeUntilKilled(const QString &path, Report &report, useconds_t microseconds)
+{
+    std::array<int, 2> pipe{};
+    ASSERT_EQ(pipe2(pipe.data(), O_CLOEXEC), 0);
+    const pid_t writer = fork();
+    ASSERT_GE(writer, 0);
+    if (writer == 0)
+        storeForEver(path, report, pipe[1]);
+    char begins = 0;
+    EXPECT_EQ(read(pipe[0], &begins, 1), 1);
+    usleep(microseconds);
+    kill(writer, SIGKILL);
+    int status = 0;
+    ASSERT_EQ(waitpid(writer, &status, 0), writer);
+    ASSERT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL) << "it ended by itself";
+    close(pipe[0]);
+    close(pipe[1]);
+}
+
+/// A time of any order of magnitude, because nobody knows how fast the disk is.
+useconds_t someMicroseconds(std::mt19937 &random)
+{
+    constexpr double longest = 20'000;
+    return static_cast<useconds_t>(std::pow(longest, std::uniform_real_distribution(0.0, 1.0)(random)));
+}
+
+QByteArray contentOf(const QString &path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
-    return QJsonDocument::fromJson(file.readAll()).object();
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 QStringList namesIn(const QString &folder)
@@ -68,61 +130,68 @@ QStringList namesIn(const QString &folder)
 
 } // namespace
 
-TEST(DefaultsDurability, SurvivesBeingKilledAtAnyMoment)
+TEST(DefaultsDurability, SurvivesBeingKilledAThousandTimesAtAnyMoment)
 {
-    constexpr int kills = 40;
+    constexpr int kills = 1000;
+    constexpr std::mt19937::result_type seed = 20260101;
+    SCOPED_TRACE(testing::Message() << "seed " << seed);
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"defaults.json"_s);
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(R"({"other":{"kept":true}})") > 0);
-    file.close();
+    Defaults(path).setText(QLatin1StringView("other"), u"kept"_s);
 
-    std::mt19937 random(20260101); // the same at each run
-    qsizetype stored = 0;
+    std::mt19937 random(seed);
+    const SharedReport report;
+    int interrupted = 0;
+    int leftBehind = 0;
     for (int i = 0; i < kills; ++i) {
-        QProcess writer;
-        start(writer, u"forever"_s, path);
-        const int reports = std::uniform_int_distribution(1, 15)(random);
-        qsizetype reported = stored;
-        for (int report = 0; report < reports; ++report) {
-            const auto next = nextReport(writer);
-            ASSERT_TRUE(next.has_value()) << "the writer fell silent";
-            ASSERT_EQ(*next, RecognisableContent::nextLineCount(reported)) << "what was stored got lost";
-            reported = *next;
-        }
-        reported = killAndReadTheRest(writer, reported);
+        const qsizetype before = report->done;
+        report->begun = before;
+        ASSERT_NO_FATAL_FAILURE(storeUntilKilled(path, *report, someMicroseconds(random)));
 
-        // Read as a later start would read it, but before that could mend anything.
-        EXPECT_EQ(contentOf(path)[u"other"_s], QJsonValue(QJsonObject{{u"kept"_s, true}}));
-        const auto lines = Defaults(path).textList(RecognisableContent::key);
-        ASSERT_TRUE(lines.has_value());
-        stored = lines->size();
-        EXPECT_EQ(*lines, RecognisableContent::lines(stored));
-        EXPECT_TRUE(stored == reported || stored == RecognisableContent::nextLineCount(reported))
-            << stored << " stored, " << reported << " reported";
+        // Read before a later start could mend anything.
+        const QJsonObject stored = QJsonDocument::fromJson(contentOf(path)).object();
+        ASSERT_EQ(stored[u"other"_s], QJsonValue(u"kept"_s)) << "after " << i << " kills";
+        const qsizetype count = stored[key].toArray().size();
+        ASSERT_EQ(stored[key].toArray(), QJsonArray::fromStringList(lines(count)));
+        ASSERT_TRUE(count == report->done || count == report->begun)
+            << count << " lines, after " << report->done << " were stored and " << report->begun << " begun";
+        const qsizetype leftovers = namesIn(folder.path()).size() - 1;
+        ASSERT_LE(leftovers, 1) << "each start removes what the one before left";
+        interrupted += report->begun != report->done ? 1 : 0;
+        leftBehind += leftovers > 0 ? 1 : 0;
+        report->done = count;
     }
+    EXPECT_GT(interrupted, kills / 10) << "the kills met no writes";
+    EXPECT_GT(leftBehind, 0) << "the kills met no files half written";
 
-    // A name that could be a word is left alone, for it could be a copy that somebody made.
-    static const QRegularExpression word(u"\\Adefaults\\.json\\.([A-Za-z][a-z]{5}|[A-Z]{6})\\z"_s);
-    QStringList names = namesIn(folder.path());
-    names.removeIf([](const QString &name) { return word.match(name).hasMatch(); });
-    EXPECT_EQ(names, QStringList{u"defaults.json"_s});
+    const Defaults defaults(path);
+    EXPECT_EQ(defaults.textList(key).value_or(QStringList()), lines(report->done));
+    EXPECT_EQ(namesIn(folder.path()), QStringList{u"defaults.json"_s});
 }
 
-TEST(DefaultsDurability, KeepsTheLastWholeFileWhenTheDiskIsFull)
+TEST(DefaultsDurability, KeepsTheLastWholeFileWhereTheDiskIsFullAndWritesAgainWhenThereIsRoom)
 {
-    const QTemporaryDir folder;
-    const QString path = folder.filePath(u"defaults.json"_s);
-    Defaults(path).setText(QLatin1StringView("old"), u"value"_s);
-    QProcess writer;
-    start(writer, u"too-much"_s, path);
-    ASSERT_TRUE(writer.waitForFinished(deadlineMilliseconds));
-    EXPECT_EQ(writer.exitStatus(), QProcess::NormalExit);
-    EXPECT_EQ(writer.exitCode(), 0);
-    EXPECT_EQ(writer.readAllStandardError(), QByteArray()) << "no message";
-    EXPECT_EQ(writer.readAllStandardOutput(), "5 100000\n") << "the values live in memory";
-    EXPECT_EQ(contentOf(path), (QJsonObject{{u"old"_s, u"value"_s}, {u"small"_s, u"small"_s}}));
-    EXPECT_EQ(namesIn(folder.path()), QStringList{u"defaults.json"_s});
+    checkOnSmallDisk(256 * 1024, [](const QString &folder) {
+        const QString path = folder + u"/defaults.json"_s;
+        const QString filler = folder + u"/filler"_s;
+        Defaults defaults(path);
+        defaults.setTextList(key, lines(2));
+        const QByteArray whole = contentOf(path);
+        fillDisk(filler);
+        const QStringList names = namesIn(folder);
+        for (qsizetype count = 3; count < maximumLineCount; ++count)
+            defaults.setTextList(key, lines(count));
+        EXPECT_EQ(contentOf(path), whole);
+        EXPECT_EQ(namesIn(folder), names);
+        EXPECT_EQ(defaults.textList(key), lines(maximumLineCount - 1)) << "the values live in memory";
+        EXPECT_EQ(Defaults(path).textList(key), lines(2)) << "another start sees what was written";
+
+        ASSERT_TRUE(QFile::remove(filler));
+        defaults.setText(QLatin1StringView("other"), u"value"_s);
+        EXPECT_EQ(Defaults(path).textList(key), lines(maximumLineCount - 1));
+        EXPECT_EQ(Defaults(path).text(QLatin1StringView("other")), u"value"_s);
+        EXPECT_EQ(namesIn(folder), QStringList{u"defaults.json"_s});
+    });
 }
 
 } // namespace keyvora

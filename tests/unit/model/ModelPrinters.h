@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "model/Backup.h"
 #include "model/PracticeStat.h"
 #include "model/Shortcut.h"
 #include "model/SidebarSelection.h"
@@ -20,6 +21,11 @@ inline void PrintTo(const Shortcut &shortcut, std::ostream *stream)
 inline void PrintTo(Shortcut::Category category, std::ostream *stream)
 {
     ::PrintTo(rawValue(category), stream);
+}
+
+inline void PrintTo(const Backup &backup, std::ostream *stream)
+{
+    ::PrintTo(encodeBackup(backup), stream);
 }
 
 inline void PrintTo(const PracticeStat &stat, std::ostream *stream)

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "fakes/FakeAccessibility.h"
 #include "fakes/FakeLoginItem.h"
 #include "fakes/FakeMenuUseObserver.h"
 #include "fakes/FakeWorkspace.h"
@@ -12,6 +13,7 @@
 #include "unit/model/ModelPrinters.h"
 
 #include <QFile>
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QTemporaryDir>
@@ -35,6 +37,14 @@ inline QStringList idsOf(const QList<Shortcut> &shortcuts)
     QStringList ids;
     for (const Shortcut &shortcut : shortcuts)
         ids.append(shortcut.id);
+    return ids;
+}
+
+inline QStringList rowsOf(const ShortcutListModel &model)
+{
+    QStringList ids;
+    for (int row = 0; row < model.rowCount(); ++row)
+        ids.append(model.data(model.index(row), ShortcutListModel::ShortcutIdRole).toString());
     return ids;
 }
 
@@ -107,7 +117,13 @@ public:
     // Public, because the tests speak to the desktop directly.
     FakeWorkspace workspace;
     FakeLoginItem loginItem;
+    FakeAccessibility accessibility;
     FakeMenuUseObserver::Log menuUse;
+    QDateTime now{QDate(2026, 1, 1), QTime(12, 0)};
+    // Always the same number: the draw then goes by weight, and by the order of the list among equals.
+    UniformRandom uniformRandom = [] {
+        return 0.5;
+    };
 
 private:
     void begin()
@@ -118,9 +134,12 @@ private:
             .defaults = *m_defaults,
             .workspace = workspace,
             .loginItem = loginItem,
+            .accessibility = accessibility,
             .makeSmartObserver = FakeMenuUseObserver::factory(menuUse),
             .locale = m_start.locale,
             .makeUuid = {},
+            .now = [this] { return now; },
+            .uniformRandom = [this] { return uniformRandom(); },
         });
     }
 
@@ -130,5 +149,11 @@ private:
     std::optional<Localization> m_localization;
     std::unique_ptr<AppModel> m_model;
 };
+
+/// The own shortcuts as the file holds them.
+inline std::optional<QList<Shortcut>> storedCustomOf(const Program &program)
+{
+    return decodeShortcuts(QJsonDocument(program.stored()[u"customShortcuts"_s].toArray()).toJson());
+}
 
 } // namespace keyvora
