@@ -32,6 +32,11 @@ signals:
     void activated(const QString &activationToken);
     /// One of the actions of the desktop entry was chosen.
     void actionActivated(const QString &action, const QString &activationToken);
+    /// This process is the program, and has been told what the desktop started it for, if it was for
+    /// something: comes once, from the event loop, after such a signal as the above.
+    void caughtUp();
+    /// The session that the place was in is over. Later starts do not find this process any more.
+    void sessionLost();
 };
 
 } // namespace keyvora

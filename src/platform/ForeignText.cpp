@@ -25,24 +25,40 @@ bool isHarmful(QChar character)
     }
 }
 
-} // namespace
-
-QString displayableForeignText(const QString &text, qsizetype maximumLength)
+/// The first part of a text, with spaces in the place of what would do harm. A little more than is kept, so
+/// that white space cannot eat all of a padded name.
+QString withoutHarm(const QString &text, qsizetype maximumLength)
 {
-    // A little more than is kept, so that folding white space cannot eat the whole text of a padded name.
     QString result = text.left(maximumLength * 4);
     for (QChar &character : result) {
         if (isHarmful(character))
             character = u' ';
     }
-    const bool isCut = result.size() < text.size();
-    result = result.simplified();
-    if (result.size() <= maximumLength && !isCut)
-        return result;
-    result.truncate(maximumLength - 1);
-    if (!result.isEmpty() && result.back().isHighSurrogate())
-        result.chop(1);
-    return result + u'…';
+    return result;
+}
+
+QString limited(QString text, qsizetype maximumLength, bool isCut)
+{
+    if (text.size() <= maximumLength && !isCut)
+        return text;
+    text.truncate(maximumLength - 1);
+    if (!text.isEmpty() && text.back().isHighSurrogate())
+        text.chop(1);
+    return text + u'…';
+}
+
+} // namespace
+
+QString harmlessForeignText(const QString &text, qsizetype maximumLength)
+{
+    const QString result = withoutHarm(text, maximumLength);
+    return limited(result.trimmed(), maximumLength, result.size() < text.size());
+}
+
+QString displayableForeignText(const QString &text, qsizetype maximumLength)
+{
+    const QString result = withoutHarm(text, maximumLength);
+    return limited(result.simplified(), maximumLength, result.size() < text.size());
 }
 
 } // namespace keyvora

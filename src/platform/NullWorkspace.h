@@ -19,6 +19,10 @@ public:
     {
         return std::nullopt;
     }
+    [[nodiscard]] QFuture<QList<RunningApplication>> runningApplications() override
+    {
+        return QtFuture::makeReadyFuture(QList<RunningApplication>());
+    }
 };
 
 } // namespace keyvora

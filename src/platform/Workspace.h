@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <QFuture>
+#include <QList>
 #include <QObject>
 #include <QString>
 
@@ -31,6 +33,10 @@ public:
 
     /// The application whose window has the focus; nothing when none has or the desktop does not tell.
     [[nodiscard]] virtual std::optional<RunningApplication> frontmostApplication() const = 0;
+
+    /// The ordinary applications that run now, those with a window in the task list, in the desktop's order,
+    /// each process once. Our own included. The future finishes soon, perhaps from another thread.
+    [[nodiscard]] virtual QFuture<QList<RunningApplication>> runningApplications() = 0;
 
 signals:
     /// Another application came to the front, or the name of the one in front became known. Our own included.

@@ -31,6 +31,7 @@ const auto interfaceGroup = u"org.gnome.desktop.interface"_s;
 const auto accessibilityGroup = u"org.gnome.desktop.a11y.interface"_s;
 const auto colorScheme = u"color-scheme"_s;
 const auto contrast = u"contrast"_s;
+const auto reducedMotion = u"reduced-motion"_s;
 const auto highContrast = u"high-contrast"_s;
 const auto enableAnimations = u"enable-animations"_s;
 
@@ -282,6 +283,19 @@ TEST_F(PortalAppearanceTest, KeepsContrastWhileOneOfBothAsksForIt)
     EXPECT_TRUE(becomesTrue([&] { return !appearance.preferences().highContrast; }));
 }
 
+TEST_F(PortalAppearanceTest, KeepsStillWhileOneOfBothAsksForIt)
+{
+    FakeSettingsPortal &portal = startPortal();
+    portal.set(appearanceGroup, reducedMotion, 1U);
+    const PortalAppearance &appearance = makeAppearance();
+    EXPECT_EQ(settledPreferences(), (Preferences{.reducedMotion = true}));
+    portal.change(interfaceGroup, enableAnimations, false);
+    portal.change(appearanceGroup, reducedMotion, 0U);
+    EXPECT_EQ(settledPreferences(), (Preferences{.reducedMotion = true}));
+    portal.change(interfaceGroup, enableAnimations, true);
+    EXPECT_TRUE(becomesTrue([&] { return !appearance.preferences().reducedMotion; }));
+}
+
 TEST_F(PortalAppearanceTest, IsOrdinaryWhereSettingsAreOfAWrongType)
 {
     const QVariant wrongNumbers[] = {u"1"_s, u"prefer-dark"_s,          true,
@@ -292,6 +306,7 @@ TEST_F(PortalAppearanceTest, IsOrdinaryWhereSettingsAreOfAWrongType)
     for (const QVariant &wrong : wrongNumbers) {
         portal.change(appearanceGroup, colorScheme, wrong);
         portal.change(appearanceGroup, contrast, wrong);
+        portal.change(appearanceGroup, reducedMotion, wrong);
         EXPECT_EQ(settledPreferences(), Preferences()) << wrong.typeName();
     }
     for (const QVariant &wrong : wrongFlags) {
@@ -333,7 +348,7 @@ TEST_F(PortalAppearanceTest, DoesNotWaitForASilentPortal)
     portal.set(appearanceGroup, colorScheme, 1U);
     portal.fallSilent();
     PortalAppearance &appearance = makeAppearance();
-    EXPECT_TRUE(becomesTrue([&] { return portal.questions() == 4; }));
+    EXPECT_TRUE(becomesTrue([&] { return portal.questions() == 5; }));
     EXPECT_EQ(appearance.preferences(), Preferences());
     portal.answer();
     EXPECT_TRUE(becomesTrue([&] { return appearance.preferences().isDark; }));

@@ -40,6 +40,7 @@ public:
     virtual Claim startAgain(const QString &activationToken) = 0;
     virtual void activateFromDesktop(const QString &activationToken) = 0;
     virtual void chooseAction(const QString &action, const QString &activationToken) = 0;
+    virtual void end() = 0;
 };
 
 class FakeSession : public Session
@@ -60,6 +61,8 @@ public:
     {
         m_first->chooseAction(action, activationToken);
     }
+
+    void end() override { m_first->loseSession(); }
 
 private:
     FakeApplicationInstance::Session m_session;
@@ -106,6 +109,8 @@ public:
         call(u"ActivateAction"_s, {action, QVariantList(), platformData(activationToken)});
     }
 
+    void end() override { m_bus.end(); }
+
     /// Calls the program as desktops do.
     void call(const QString &method, const QVariantList &arguments) const
     {
@@ -113,6 +118,8 @@ public:
             u"app.keyvora.Keyvora"_s, u"/app/keyvora/Keyvora"_s, u"org.freedesktop.Application"_s, method);
         message.setArguments(arguments);
         m_desktopBus.send(message);
+        // With an answer to this, the bus has the call, too.
+        EXPECT_TRUE(m_desktopBus.interface()->isServiceRegistered(u"app.keyvora.Keyvora"_s).isValid());
     }
 
     static QVariantMap platformData(const QString &activationToken)
@@ -141,6 +148,11 @@ public:
                          [this](const QString &action, const QString &token) {
                              m_actions.append({action, token});
                          });
+        QObject::connect(&instance, &ApplicationInstance::caughtUp, &instance, [this] {
+            ++m_timesCaughtUp;
+            m_toldBefore = m_actions.size() + m_activations.size();
+        });
+        QObject::connect(&instance, &ApplicationInstance::sessionLost, &instance, [this] { ++m_losses; });
     }
 
     /// The tokens, once there are so many.
@@ -157,9 +169,27 @@ public:
         return m_actions;
     }
 
+    /// How much was told before the instance had caught up, once it has.
+    [[nodiscard]] qsizetype toldBefore() const
+    {
+        EXPECT_TRUE(becomesTrue([&] { return m_timesCaughtUp > 0; }));
+        EXPECT_EQ(m_timesCaughtUp, 1);
+        return m_toldBefore;
+    }
+
+    /// How often the session was lost, once that is so many times.
+    [[nodiscard]] int losses(int expected) const
+    {
+        EXPECT_TRUE(becomesTrue([&] { return m_losses >= expected; }));
+        return m_losses;
+    }
+
 private:
     QStringList m_activations;
     QList<Call> m_actions;
+    int m_timesCaughtUp = 0;
+    qsizetype m_toldBefore = 0;
+    int m_losses = 0;
 };
 
 struct Row
@@ -210,12 +240,37 @@ TEST_P(ApplicationInstanceContract, TellsOfActions)
     EXPECT_EQ(log.activations(0), QStringList());
 }
 
+TEST_P(ApplicationInstanceContract, CatchesUpWithWhatItWasStartedFor)
+{
+    const Log log(session().firstStart());
+    ASSERT_EQ(session().firstStart().claim({}), Claim::First);
+    session().chooseAction(u"practice"_s, {});
+    EXPECT_EQ(log.toldBefore(), 1);
+}
+
+TEST_P(ApplicationInstanceContract, CatchesUpWhereNobodyAsksForAnything)
+{
+    const Log log(session().firstStart());
+    ASSERT_EQ(session().firstStart().claim({}), Claim::First);
+    EXPECT_EQ(log.toldBefore(), 0);
+}
+
 TEST_P(ApplicationInstanceContract, PlaceIsFreeAgainAfterTheEnd)
 {
     ASSERT_EQ(session().firstStart().claim({}), Claim::First);
     session().endFirst();
     EXPECT_EQ(session().startAgain({}), Claim::First);
     EXPECT_EQ(session().startAgain({}), Claim::First);
+}
+
+TEST_P(ApplicationInstanceContract, TellsOfTheEndOfTheSession)
+{
+    const Log log(session().firstStart());
+    ASSERT_EQ(session().firstStart().claim({}), Claim::First);
+    EXPECT_EQ(session().startAgain({}), Claim::HandedOver);
+    EXPECT_EQ(log.losses(0), 0);
+    session().end();
+    EXPECT_EQ(log.losses(1), 1);
 }
 
 INSTANTIATE_TEST_SUITE_P(Backends, ApplicationInstanceContract,

@@ -7,6 +7,9 @@
 
 #include <QByteArray>
 #include <QProcess>
+#include <QProcessEnvironment>
+#include <QString>
+#include <QStringList>
 
 #include <memory>
 
@@ -16,12 +19,15 @@ namespace keyvora {
 class BareScreen
 {
 public:
-    BareScreen()
+    /// The server takes further arguments.
+    explicit BareScreen(const QStringList &arguments = {})
     {
         m_server.start(QStringLiteral("Xvfb"),
-                       {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-nolisten"),
-                        QStringLiteral("tcp"), QStringLiteral("-noreset"), QStringLiteral("-screen"),
-                        QStringLiteral("0"), QStringLiteral("640x480x24")});
+                       QStringList{QStringLiteral("-displayfd"), QStringLiteral("1"),
+                                   QStringLiteral("-nolisten"), QStringLiteral("tcp"),
+                                   QStringLiteral("-noreset"), QStringLiteral("-screen"), QStringLiteral("0"),
+                                   QStringLiteral("640x480x24")} +
+                           arguments);
         // The server writes its number when it is ready for clients.
         if (m_server.waitForReadyRead())
             m_display = ':' + m_server.readLine().trimmed();
@@ -40,6 +46,23 @@ public:
         auto connection = X11Connection::open();
         qputenv("DISPLAY", before);
         return connection;
+    }
+
+    /// The environment of the programs on this screen.
+    [[nodiscard]] QProcessEnvironment environment() const
+    {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("DISPLAY"), QString::fromUtf8(m_display));
+        return environment;
+    }
+
+    /// Runs a program to its end; whether it had success.
+    [[nodiscard]] bool run(const QString &program, const QStringList &arguments) const
+    {
+        QProcess process;
+        process.setProcessEnvironment(environment());
+        process.start(program, arguments);
+        return process.waitForFinished() && process.exitCode() == 0;
     }
 
     /// The server goes away; its lock file goes with it.

@@ -73,7 +73,8 @@ void LinuxStatusItemTest::makeItem()
 {
     QPixmap pixmap(32, 32);
     pixmap.fill(Qt::red);
-    m_item = std::make_unique<LinuxStatusItem>(QIcon(pixmap), m_bus, m_x11.get());
+    m_item = std::make_unique<LinuxStatusItem>(StatusIcon{.themeName = {}, .picture = QIcon(pixmap)}, m_bus,
+                                               m_x11.get());
 }
 
 void LinuxStatusItemTest::knowsNothingBeforeTheDesktopAnswers()
@@ -92,14 +93,14 @@ void LinuxStatusItemTest::hasNoHostOnBareDesktop()
 
 void LinuxStatusItemTest::knowsAtOnceThatNothingCanBeThere()
 {
-    const LinuxStatusItem item(QIcon(), QDBusConnection(u"never connected"_s), nullptr);
+    const LinuxStatusItem item({}, QDBusConnection(u"never connected"_s), nullptr);
     QCOMPARE(item.host(), Host::None);
 }
 
 void LinuxStatusItemTest::embedsOnlyWithX11()
 {
     const FakeXEmbedTray tray;
-    const LinuxStatusItem item(QIcon(), m_bus, nullptr);
+    const LinuxStatusItem item({}, m_bus, nullptr);
     QTRY_COMPARE(item.host(), Host::None);
     QCOMPARE(tray.iconCount(), 0);
 }

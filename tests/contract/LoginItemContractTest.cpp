@@ -68,8 +68,7 @@ public:
 
 private:
     QTemporaryDir m_folder;
-    XdgAutostart m_loginItem{
-        m_folder.filePath(u"home"_s), {m_folder.filePath(u"system"_s)}, u"/usr/bin/keyvora"_s};
+    XdgAutostart m_loginItem{m_folder.filePath(u"home"_s), {m_folder.filePath(u"system"_s)}, u"/bin/sh"_s};
 };
 
 struct Row

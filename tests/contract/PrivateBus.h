@@ -37,10 +37,16 @@ public:
     {
         for (const QString &name : m_connections)
             QDBusConnection::disconnectFromBus(name);
+        end();
+    }
+    Q_DISABLE_COPY_MOVE(PrivateBus)
+
+    /// Ends the bus under those that are on it.
+    void end()
+    {
         m_daemon.kill();
         m_daemon.waitForFinished();
     }
-    Q_DISABLE_COPY_MOVE(PrivateBus)
 
     [[nodiscard]] QString address() const { return m_address; }
 

@@ -59,7 +59,7 @@ void StatusNotifierHostTest::cleanup()
 
 void StatusNotifierHostTest::makeItem()
 {
-    m_item = std::make_unique<StatusNotifierItem>(QIcon(), m_itemBus);
+    m_item = std::make_unique<StatusNotifierItem>(StatusIcon(), m_itemBus);
 }
 
 void StatusNotifierHostTest::knowsNothingBeforeTheDesktopAnswers()
@@ -78,7 +78,7 @@ void StatusNotifierHostTest::hasNoHostWithoutWatcher()
 void StatusNotifierHostTest::worksWithoutSessionBus()
 {
     const QDBusConnection noBus(u"never connected"_s);
-    StatusNotifierItem item(QIcon(), noBus);
+    StatusNotifierItem item({}, noBus);
     QCOMPARE(item.hasHost(), std::optional(false));
     item.askAgain();
     QCOMPARE(item.hasHost(), std::optional(false));

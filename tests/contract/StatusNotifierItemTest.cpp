@@ -80,7 +80,8 @@ void StatusNotifierItemTest::cleanup()
 
 void StatusNotifierItemTest::makeItem(const QIcon &icon)
 {
-    m_item = std::make_unique<StatusNotifierItem>(icon, m_itemBus);
+    m_item = std::make_unique<StatusNotifierItem>(
+        StatusIcon{.themeName = u"keys-symbolic"_s, .picture = icon}, m_itemBus);
 }
 
 QDBusMessage StatusNotifierItemTest::callItem(const QString &interface, const QString &method,
@@ -113,7 +114,7 @@ void StatusNotifierItemTest::describesItself_data()
     QTest::newRow("title") << u"Title"_s << QVariant(u"Keyvora"_s);
     QTest::newRow("status") << u"Status"_s << QVariant(u"Active"_s);
     QTest::newRow("window") << u"WindowId"_s << QVariant(0);
-    QTest::newRow("no icon by name") << u"IconName"_s << QVariant(QString());
+    QTest::newRow("icon by name") << u"IconName"_s << QVariant(u"keys-symbolic"_s);
     QTest::newRow("a click is not a menu") << u"ItemIsMenu"_s << QVariant(false);
     QTest::newRow("no menu") << u"Menu"_s << QVariant::fromValue(QDBusObjectPath(u"/NO_DBUSMENU"_s));
 }

@@ -32,6 +32,8 @@ public:
     [[nodiscard]] virtual bool tells() const { return true; }
     virtual void activate(const RunningApplication &application) = 0;
     virtual void activateNothing() = 0;
+    /// These have a window in the task list from now on, in this order.
+    virtual void run(const QList<RunningApplication> &applications) = 0;
 };
 
 class FakeDesktop : public Desktop
@@ -41,6 +43,7 @@ public:
     {
         auto workspace = std::make_unique<FakeWorkspace>();
         workspace->setFrontmost(m_frontmost);
+        workspace->setRunning(m_running);
         m_workspace = workspace.get();
         return workspace;
     }
@@ -59,8 +62,16 @@ public:
             m_workspace->setFrontmost(std::nullopt);
     }
 
+    void run(const QList<RunningApplication> &applications) override
+    {
+        m_running = applications;
+        if (m_workspace)
+            m_workspace->setRunning(applications);
+    }
+
 private:
     std::optional<RunningApplication> m_frontmost;
+    QList<RunningApplication> m_running;
     QPointer<FakeWorkspace> m_workspace;
 };
 
@@ -71,6 +82,7 @@ public:
     [[nodiscard]] bool tells() const override { return false; }
     void activate(const RunningApplication & /*application*/) override {}
     void activateNothing() override {}
+    void run(const QList<RunningApplication> & /*applications*/) override {}
 };
 
 /// A screen on which the test is the window manager.
@@ -84,16 +96,29 @@ public:
 
     void activate(const RunningApplication &application) override
     {
-        m_desktop.setActiveWindow({m_desktop.makeWindow({
-            .instance = "instance",
-            .windowClass = application.name.toUtf8(),
-            .pid = application.pid ? std::optional(static_cast<quint32>(*application.pid)) : std::nullopt,
-        })});
+        m_desktop.setActiveWindow({windowOf(application)});
     }
 
     void activateNothing() override { m_desktop.setActiveWindow({XCB_WINDOW_NONE}); }
 
+    void run(const QList<RunningApplication> &applications) override
+    {
+        QList<quint32> windows;
+        for (const RunningApplication &application : applications)
+            windows.append(windowOf(application));
+        m_desktop.setClientList(windows);
+    }
+
 private:
+    xcb_window_t windowOf(const RunningApplication &application)
+    {
+        return m_desktop.makeWindow({
+            .instance = "instance",
+            .windowClass = application.name.toUtf8(),
+            .pid = application.pid ? std::optional(static_cast<quint32>(*application.pid)) : std::nullopt,
+        });
+    }
+
     BareScreen m_screen;
     X11Desktop m_desktop{m_screen.display()};
     std::unique_ptr<X11Connection> m_connection = m_screen.open();
@@ -116,6 +141,14 @@ protected:
     [[nodiscard]] std::optional<RunningApplication> seen(const RunningApplication &application) const
     {
         return m_desktop->tells() ? std::optional(application) : std::nullopt;
+    }
+
+    /// What a workspace says of the applications that run now.
+    static QList<RunningApplication> running(Workspace &workspace)
+    {
+        const QFuture<QList<RunningApplication>> future = workspace.runningApplications();
+        EXPECT_TRUE(becomesTrue([&] { return future.isFinished(); }));
+        return future.result();
     }
 
 private:
@@ -206,6 +239,26 @@ TEST_P(WorkspaceContract, EndsQuickSwitchesInTheLast)
     QCoreApplication::processEvents();
     EXPECT_EQ(workspace->frontmostApplication(), seen(withoutPid));
     EXPECT_TRUE(told.isEmpty() || told.constLast() == withoutPid);
+}
+
+TEST_P(WorkspaceContract, KnowsNoApplicationsOfAnEmptyDesktop)
+{
+    const auto workspace = desktop().makeWorkspace();
+    EXPECT_EQ(running(*workspace), QList<RunningApplication>());
+    desktop().run({});
+    EXPECT_EQ(running(*workspace), QList<RunningApplication>());
+}
+
+TEST_P(WorkspaceContract, KnowsWhatRunsNow)
+{
+    const RunningApplication ourselves{u"Keyvora"_s, static_cast<qint32>(QCoreApplication::applicationPid())};
+    const auto workspace = desktop().makeWorkspace();
+    for (const QList<RunningApplication> &applications :
+         {QList{viewer, editor}, QList{editor, ourselves, viewer}, QList{viewer}}) {
+        desktop().run(applications);
+        EXPECT_EQ(running(*workspace), desktop().tells() ? applications : QList<RunningApplication>());
+    }
+    EXPECT_EQ(workspace->frontmostApplication(), std::nullopt);
 }
 
 INSTANTIATE_TEST_SUITE_P(Backends, WorkspaceContract,

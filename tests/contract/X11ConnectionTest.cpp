@@ -6,12 +6,14 @@
 #include "contract/BareScreen.h"
 #include "contract/Waiting.h"
 #include "contract/X11Desktop.h"
+#include "platform/linux/XcbXkb.h"
 #include "unit/QtPrinters.h"
 
 #include <QList>
 
 #include <gtest/gtest.h>
 #include <optional>
+#include <xcb/res.h>
 
 namespace keyvora {
 
@@ -188,6 +190,54 @@ TEST_F(X11ConnectionTest, EndsSilentlyWithTheServer)
     connection().finishPendingReplies();
     EXPECT_EQ(connection().atom("_KEYVORA_TEST"), static_cast<xcb_atom_t>(XCB_ATOM_NONE));
     QCoreApplication::processEvents();
+}
+
+TEST_F(X11ConnectionTest, TellsWhatBecameOfRequests)
+{
+    const xcb_window_t window = desktop().makeWindow({.instance = "a", .windowClass = "A"});
+    const xcb_window_t gone = desktop().makeWindow({.instance = "b", .windowClass = "B"});
+    desktop().destroy(gone);
+    QList<bool> outcomes;
+    int failures = 0;
+    QObject::connect(
+        &connection(), &X11Connection::eventReceived, &connection(),
+        [&](const xcb_generic_event_t *event) { failures += event->response_type == 0 ? 1 : 0; });
+    for (const xcb_window_t target : {window, gone, window}) {
+        const auto cookie = xcb_map_window_checked(connection().xcb(), target);
+        connection().expectOutcome(cookie.sequence, [&](bool isDone) { outcomes.append(isDone); });
+    }
+    EXPECT_EQ(outcomes, QList<bool>());
+    EXPECT_TRUE(becomesTrue([&] { return outcomes.size() == 3; }));
+    EXPECT_EQ(outcomes, (QList<bool>{true, false, true}));
+    // Whoever asked has been told, and nobody else.
+    EXPECT_EQ(failures, 0);
+}
+
+TEST_F(X11ConnectionTest, WaitsForOutcomesAtStartUp)
+{
+    QList<bool> outcomes;
+    for (const xcb_window_t target : {connection().root(), xcb_window_t{XCB_WINDOW_NONE}}) {
+        const auto cookie = xcb_map_window_checked(connection().xcb(), target);
+        connection().expectOutcome(cookie.sequence, [&](bool isDone) { outcomes.append(isDone); });
+    }
+    connection().finishPendingReplies();
+    EXPECT_EQ(outcomes, (QList<bool>{true, false}));
+}
+
+TEST_F(X11ConnectionTest, KnowsExtensions)
+{
+    const xcb_query_extension_reply_t *keyboard = connection().extension(xcb_xkb_id);
+    ASSERT_NE(keyboard, nullptr);
+    EXPECT_NE(keyboard->major_opcode, 0);
+    EXPECT_EQ(connection().extension(xcb_xkb_id), keyboard);
+}
+
+TEST(X11ConnectionWithoutExtensions, KnowsThatThereIsNone)
+{
+    const BareScreen screen({QStringLiteral("-extension"), QStringLiteral("X-Resource")});
+    const auto connection = screen.open();
+    ASSERT_NE(connection, nullptr);
+    EXPECT_EQ(connection->extension(xcb_res_id), nullptr);
 }
 
 } // namespace keyvora

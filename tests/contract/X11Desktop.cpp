@@ -26,8 +26,13 @@ X11Desktop::X11Desktop(const QByteArray &display)
 xcb_window_t X11Desktop::makeWindow(const WindowProperties &properties)
 {
     const xcb_window_t window = xcb_generate_id(m_connection.get());
-    xcb_create_window(m_connection.get(), XCB_COPY_FROM_PARENT, window, m_screen->root, 0, 0, 100, 100, 0,
-                      XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT, 0, nullptr);
+    const QRect &geometry = properties.geometry;
+    const uint32_t isPopup = properties.isPopup ? 1 : 0;
+    xcb_create_window(m_connection.get(), XCB_COPY_FROM_PARENT, window, m_screen->root,
+                      static_cast<int16_t>(geometry.x()), static_cast<int16_t>(geometry.y()),
+                      static_cast<uint16_t>(geometry.width()), static_cast<uint16_t>(geometry.height()), 0,
+                      XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT, XCB_CW_OVERRIDE_REDIRECT,
+                      &isPopup);
     if (!properties.instance.isNull() || !properties.windowClass.isNull())
         setProperty(window, "WM_CLASS", XCB_ATOM_STRING,
                     properties.instance + '\0' + properties.windowClass + '\0');
@@ -35,6 +40,8 @@ xcb_window_t X11Desktop::makeWindow(const WindowProperties &properties)
         setNumbers(window, "_NET_WM_PID", XCB_ATOM_CARDINAL, {*properties.pid});
     if (!properties.type.isEmpty())
         setNumbers(window, "_NET_WM_WINDOW_TYPE", XCB_ATOM_ATOM, {atom(properties.type)});
+    if (!properties.state.isEmpty())
+        setNumbers(window, "_NET_WM_STATE", XCB_ATOM_ATOM, {atom(properties.state)});
     finish();
     return window;
 }
@@ -54,6 +61,50 @@ void X11Desktop::destroy(xcb_window_t window)
 void X11Desktop::setActiveWindow(const QList<quint32> &values)
 {
     setNumbers(m_screen->root, "_NET_ACTIVE_WINDOW", XCB_ATOM_WINDOW, values);
+}
+
+void X11Desktop::setClientList(const QList<quint32> &windows)
+{
+    setNumbers(m_screen->root, "_NET_CLIENT_LIST", XCB_ATOM_WINDOW, windows);
+}
+
+bool X11Desktop::grabKeyboard()
+{
+    const auto cookie = xcb_grab_keyboard(m_connection.get(), 1, m_screen->root, XCB_CURRENT_TIME,
+                                          XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
+    const XcbReply<xcb_grab_keyboard_reply_t> reply(
+        xcb_grab_keyboard_reply(m_connection.get(), cookie, nullptr), &std::free);
+    return reply != nullptr && reply->status == XCB_GRAB_STATUS_SUCCESS;
+}
+
+void X11Desktop::grabInput()
+{
+    xcb_grab_keyboard(m_connection.get(), 1, m_screen->root, XCB_CURRENT_TIME, XCB_GRAB_MODE_ASYNC,
+                      XCB_GRAB_MODE_ASYNC);
+    xcb_grab_pointer(m_connection.get(), 1, m_screen->root, XCB_EVENT_MASK_BUTTON_PRESS, XCB_GRAB_MODE_ASYNC,
+                     XCB_GRAB_MODE_ASYNC, XCB_WINDOW_NONE, XCB_CURSOR_NONE, XCB_CURRENT_TIME);
+    finish();
+}
+
+void X11Desktop::ungrabInput()
+{
+    xcb_ungrab_keyboard(m_connection.get(), XCB_CURRENT_TIME);
+    xcb_ungrab_pointer(m_connection.get(), XCB_CURRENT_TIME);
+    finish();
+}
+
+bool X11Desktop::grabKey(uint16_t modifiers, xcb_keycode_t key)
+{
+    const auto cookie = xcb_grab_key_checked(m_connection.get(), 0, m_screen->root, modifiers, key,
+                                             XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
+    const XcbReply<xcb_generic_error_t> error(xcb_request_check(m_connection.get(), cookie), &std::free);
+    return error == nullptr;
+}
+
+void X11Desktop::ungrabKey(uint16_t modifiers, xcb_keycode_t key)
+{
+    xcb_ungrab_key(m_connection.get(), key, m_screen->root, modifiers);
+    finish();
 }
 
 void X11Desktop::setProperty(xcb_window_t window, const QByteArray &name, xcb_atom_t type,

@@ -5,6 +5,7 @@
 
 #include <QByteArray>
 #include <QList>
+#include <QRect>
 
 #include <memory>
 #include <optional>
@@ -22,7 +23,10 @@ public:
         QByteArray instance = {};
         QByteArray windowClass = {};
         std::optional<quint32> pid = {};
-        QByteArray type = {}; ///< such as "_NET_WM_WINDOW_TYPE_DOCK"; empty for none
+        QByteArray type = {};  ///< such as "_NET_WM_WINDOW_TYPE_DOCK"; empty for none
+        QByteArray state = {}; ///< such as "_NET_WM_STATE_SKIP_TASKBAR"; empty for none
+        QRect geometry = {0, 0, 100, 100};
+        bool isPopup = false; ///< a window that the window manager has no part in
     };
 
     explicit X11Desktop(const QByteArray &display);
@@ -34,6 +38,18 @@ public:
 
     /// What the window manager announces: one value, as a rule.
     void setActiveWindow(const QList<quint32> &values);
+
+    /// The windows of the task list, as the window manager announces them.
+    void setClientList(const QList<quint32> &windows);
+
+    /// Whether nobody else has the whole keyboard; it is taken then.
+    bool grabKeyboard();
+    /// Takes all input from everybody else, as an open menu does.
+    void grabInput();
+    void ungrabInput();
+    /// Whether nobody else has the combination (`XCB_MOD_MASK_…`); it is taken then.
+    bool grabKey(uint16_t modifiers, xcb_keycode_t key);
+    void ungrabKey(uint16_t modifiers, xcb_keycode_t key);
 
     void setProperty(xcb_window_t window, const QByteArray &name, xcb_atom_t type, const QByteArray &bytes);
     void setRootProperty(const QByteArray &name, xcb_atom_t type, const QByteArray &bytes);

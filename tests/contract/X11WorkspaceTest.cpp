@@ -98,6 +98,19 @@ protected:
         }
     }
 
+    /// What the workspace says of the applications whose windows are in the task list.
+    QList<RunningApplication> running(const QList<quint32> &taskList)
+    {
+        m_desktop.setClientList(taskList);
+        return running();
+    }
+    QList<RunningApplication> running()
+    {
+        const QFuture<QList<RunningApplication>> future = m_workspace->runningApplications();
+        EXPECT_TRUE(becomesTrue([&] { return future.isFinished(); }));
+        return future.result();
+    }
+
     /// Whether the workspace tells of this application, now or soon.
     bool isTold(const RunningApplication &application)
     {
@@ -334,29 +347,120 @@ TEST_F(X11WorkspaceTest, KeepsWhatItKnowsWhenTheServerEnds)
     EXPECT_EQ(workspace.frontmostApplication(), (RunningApplication{u"Editor"_s, 1}));
 }
 
-TEST(X11WorkspaceWithWindowManager, FollowsTheFocus)
+TEST_F(X11WorkspaceTest, ListsEachProcessOnceInTheDesktopsOrder)
 {
-    const auto connection = X11Connection::open();
-    if (!connection)
-        GTEST_SKIP() << "there is no desktop";
-    X11Desktop desktop(qgetenv("DISPLAY"));
-    ASSERT_TRUE(desktop.hasWindowManager());
-    const X11Workspace workspace(*connection, ApplicationNames({}, {}));
-    const auto isInFront = [&](const RunningApplication &application) {
-        return becomesTrue([&] { return workspace.frontmostApplication() == application; });
+    makeWorkspace();
+    EXPECT_EQ(running({makeWindow("Viewer", 2), makeWindow("Editor", 1), makeWindow("Tools", 1),
+                       makeWindow("Viewer", 2), makeWindow("Viewer", 3)}),
+              (QList<RunningApplication>{{u"Viewer"_s, 2}, {u"Editor"_s, 1}, {u"Viewer"_s, 3}}));
+}
+
+TEST_F(X11WorkspaceTest, ListsNamesInTheUsersLanguage)
+{
+    addEntry(u"editor.desktop"_s, "Name=Editor\nName[cs]=Textový editor\n");
+    addEntry(u"viewer.desktop"_s, "Name=Viewer\nName[cs]=Prohlížeč\n");
+    makeWorkspace();
+    const QList<RunningApplication> expected{
+        {u"Prohlížeč"_s, 2}, {u"Textový editor"_s, 1}, {u"Unknown"_s, 3}, {u"Textový editor"_s, 4}};
+    const QList<quint32> windows{makeWindow("Viewer", 2), makeWindow("Editor", 1), makeWindow("Unknown", 3),
+                                 makeWindow("Editor", 4)};
+    EXPECT_EQ(running(windows), expected);
+    // From then on the names are known.
+    addEntry(u"viewer.desktop"_s, "Name[cs]=Jiný prohlížeč\n");
+    EXPECT_EQ(running(windows), expected);
+    announce({windows.first()});
+    EXPECT_EQ(toldUntilNow(), (QList<RunningApplication>{{u"Prohlížeč"_s, 2}}));
+}
+
+TEST_F(X11WorkspaceTest, KnowsTheNameOfWhatHasBeenInFront)
+{
+    addEntry(u"editor.desktop"_s, "Name[cs]=Textový editor\n");
+    makeWorkspace();
+    const xcb_window_t editor = makeWindow("Editor", 1);
+    announce({editor});
+    EXPECT_TRUE(isTold({u"Textový editor"_s, 1}));
+    addEntry(u"editor.desktop"_s, "Name[cs]=Jiný editor\n");
+    EXPECT_EQ(running({editor}), (QList<RunningApplication>{{u"Textový editor"_s, 1}}));
+}
+
+TEST_F(X11WorkspaceTest, ListsOrdinaryWindowsOnly)
+{
+    const struct
+    {
+        QByteArray type;
+        QByteArray state;
+        bool isOrdinary;
+    } rows[] = {
+        {"", "", true},
+        {"_NET_WM_WINDOW_TYPE_NORMAL", "", true},
+        {"_NET_WM_WINDOW_TYPE_NORMAL", "_NET_WM_STATE_MAXIMIZED_VERT", true},
+        {"", "_NET_WM_STATE_HIDDEN", true},
+        {"", "_NET_WM_STATE_SKIP_TASKBAR", false},
+        {"_NET_WM_WINDOW_TYPE_NORMAL", "_NET_WM_STATE_SKIP_TASKBAR", false},
+        {"_NET_WM_WINDOW_TYPE_DIALOG", "", false},
+        {"_NET_WM_WINDOW_TYPE_UTILITY", "", false},
+        {"_NET_WM_WINDOW_TYPE_DOCK", "", false},
+        {"_NET_WM_WINDOW_TYPE_DESKTOP", "", false},
     };
-    const RunningApplication editor{u"Editor"_s, 1};
-    const RunningApplication viewer{u"Viewer"_s, 2};
-    const xcb_window_t editorWindow =
-        desktop.makeWindow({.instance = "main", .windowClass = "Editor", .pid = 1});
-    const xcb_window_t viewerWindow =
-        desktop.makeWindow({.instance = "main", .windowClass = "Viewer", .pid = 2});
-    desktop.show(editorWindow);
-    EXPECT_TRUE(isInFront(editor));
-    desktop.show(viewerWindow);
-    EXPECT_TRUE(isInFront(viewer));
-    desktop.destroy(viewerWindow);
-    EXPECT_TRUE(isInFront(editor));
+    makeWorkspace();
+    for (const auto &[type, state, isOrdinary] : rows) {
+        const xcb_window_t window = desktop().makeWindow(
+            {.instance = "main", .windowClass = "Editor", .pid = 1, .type = type, .state = state});
+        const QList<RunningApplication> editor{{u"Editor"_s, 1}};
+        EXPECT_EQ(running({window}), isOrdinary ? editor : QList<RunningApplication>())
+            << type.toStdString() << ' ' << state.toStdString();
+        // Another window of the same process stands for it.
+        EXPECT_EQ(running({window, makeWindow("Editor", 1)}), editor);
+    }
+}
+
+TEST_F(X11WorkspaceTest, ListsNoWindowsThatBelongToNobody)
+{
+    makeWorkspace();
+    const xcb_window_t gone = makeWindow("Gone", 3);
+    desktop().destroy(gone);
+    EXPECT_EQ(
+        running({gone, XCB_WINDOW_NONE, 0xFFFFFFFF,
+                 desktop().makeWindow({.instance = "main", .windowClass = "Remote"}),
+                 desktop().makeWindow({.instance = "main", .windowClass = "Wrong", .pid = 0xFFFFFFFF})}),
+        QList<RunningApplication>());
+    EXPECT_EQ(running({gone, makeWindow("Editor", 1), gone}), (QList<RunningApplication>{{u"Editor"_s, 1}}));
+}
+
+TEST_F(X11WorkspaceTest, ListsNothingWhereTheTaskListIsNone)
+{
+    makeWorkspace();
+    EXPECT_EQ(running(), QList<RunningApplication>());
+    desktop().setRootProperty("_NET_CLIENT_LIST", XCB_ATOM_STRING, "abc");
+    EXPECT_EQ(running(), QList<RunningApplication>());
+    desktop().setRootProperty("_NET_CLIENT_LIST", XCB_ATOM_STRING, QByteArray(100'000, 'x'));
+    EXPECT_EQ(running(), QList<RunningApplication>());
+}
+
+TEST_F(X11WorkspaceTest, ListsNoMoreThanAnyDesktopHas)
+{
+    makeWorkspace();
+    QList<quint32> windows(4095, XCB_WINDOW_NONE);
+    windows += {makeWindow("Last", 1), makeWindow("Beyond", 2)};
+    EXPECT_EQ(running(windows), (QList<RunningApplication>{{u"Last"_s, 1}}));
+}
+
+TEST_F(X11WorkspaceTest, MayEndBeforeItHasListedWhatRuns)
+{
+    addManyEntries();
+    desktop().setClientList({makeWindow("Editor", 1), makeWindow("Viewer", 2)});
+    // Each answer is one more to a question of the workspace; at last, names are being looked for.
+    for (int answers = 0; answers < 4; ++answers) {
+        const QFuture<QList<RunningApplication>> future = makeWorkspace().runningApplications();
+        for (int answer = 0; answer < answers; ++answer) {
+            bool isAnswered = false;
+            connection().readProperty(connection().root(), "_KEYVORA_FENCE", 4,
+                                      [&](const QByteArray &) { isAnswered = true; });
+            EXPECT_TRUE(becomesTrue([&] { return isAnswered; }));
+        }
+        endWorkspace();
+        EXPECT_TRUE(becomesTrue([&] { return future.isFinished(); }));
+    }
 }
 
 } // namespace keyvora

@@ -29,6 +29,8 @@ public:
 
     [[nodiscard]] Claim claim(const QString &activationToken) override
     {
+        if (!m_session.canTell || m_session.first.isNull())
+            QMetaObject::invokeMethod(this, &ApplicationInstance::caughtUp, Qt::QueuedConnection);
         if (!m_session.canTell)
             return Claim::Alone;
         if (m_session.first.isNull()) {
@@ -46,6 +48,13 @@ public:
     void chooseAction(const QString &action, const QString &activationToken = {})
     {
         emit actionActivated(action, activationToken);
+    }
+
+    /// The session ends around the program.
+    void loseSession()
+    {
+        if (m_session.first == this)
+            emit sessionLost();
     }
 
 private:

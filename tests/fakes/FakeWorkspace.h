@@ -19,6 +19,17 @@ public:
         return m_frontmost;
     }
 
+    [[nodiscard]] QFuture<QList<RunningApplication>> runningApplications() override
+    {
+        return m_running ? QtFuture::makeReadyFuture(*m_running) : QFuture<QList<RunningApplication>>();
+    }
+
+    /// What runs; nothing when the desktop gives no answer.
+    void setRunning(const std::optional<QList<RunningApplication>> &applications)
+    {
+        m_running = applications;
+    }
+
     /// How often somebody asked for the application in front.
     [[nodiscard]] int frontmostReads() const { return m_frontmostReads; }
 
@@ -34,6 +45,7 @@ public:
 
 private:
     std::optional<RunningApplication> m_frontmost;
+    std::optional<QList<RunningApplication>> m_running = QList<RunningApplication>();
     mutable int m_frontmostReads = 0;
 };
 

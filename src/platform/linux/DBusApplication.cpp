@@ -7,6 +7,7 @@
 
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
 
 namespace keyvora {
 
@@ -38,6 +39,8 @@ DBusApplication::DBusApplication(const QDBusConnection &sessionBus, QObject *par
 
 ApplicationInstance::Claim DBusApplication::claim(const QString &activationToken)
 {
+    // Until the event loop runs, nothing that comes over the bus is passed on.
+    QMetaObject::invokeMethod(this, &DBusApplication::catchUp, Qt::QueuedConnection);
     if (!m_bus.isConnected())
         return Claim::Alone;
     // Whoever finds the name taken may call at once, so the object is there before the name.
@@ -46,10 +49,32 @@ ApplicationInstance::Claim DBusApplication::claim(const QString &activationToken
         m_bus.interface()->registerService(serviceName, QDBusConnectionInterface::DontQueueService);
     if (!reply.isValid())
         return Claim::Alone;
-    if (reply.value() == QDBusConnectionInterface::ServiceRegistered)
+    if (reply.value() == QDBusConnectionInterface::ServiceRegistered) {
+        m_bus.connect({}, u"/org/freedesktop/DBus/Local"_s, u"org.freedesktop.DBus.Local"_s,
+                      u"Disconnected"_s, this, SLOT(loseSession()));
         return Claim::First;
+    }
     activateRunning(activationToken);
     return Claim::HandedOver;
+}
+
+void DBusApplication::catchUp()
+{
+    // A call over no bus is never answered.
+    if (!m_bus.isConnected()) {
+        emit caughtUp();
+        return;
+    }
+    // The bus keeps what it started the program for until the name is taken, and answers in the order of
+    // events.
+    const auto bus = u"org.freedesktop.DBus"_s;
+    const QDBusMessage call =
+        QDBusMessage::createMethodCall(bus, u"/org/freedesktop/DBus"_s, bus, u"GetId"_s);
+    auto *answer = new QDBusPendingCallWatcher(m_bus.asyncCall(call, activationTimeoutMs), this);
+    connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
+        answer->deleteLater();
+        emit caughtUp();
+    });
 }
 
 void DBusApplication::activateRunning(const QString &activationToken)

@@ -27,7 +27,11 @@ public:
     void ActivateAction(const QString &action, const QVariantList &parameters,
                         const QVariantMap &platformData);
 
+private slots:
+    void loseSession() { emit sessionLost(); }
+
 private:
+    void catchUp();
     void activateRunning(const QString &activationToken);
 
     QDBusConnection m_bus;

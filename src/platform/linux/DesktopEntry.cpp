@@ -136,6 +136,17 @@ QString DesktopEntry::executableName() const
     return firstArgument(value(u"Exec"_s)).section(u'/', -1);
 }
 
+QString DesktopEntry::escaped(const QString &text)
+{
+    QString value = text;
+    value.replace(u'\\', u"\\\\"_s)
+        .replace(u'\n', u"\\n"_s)
+        .replace(u'\r', u"\\r"_s)
+        .replace(u'\t', u"\\t"_s);
+    // Blanks at the ends of a value do not count.
+    return value.replace(u' ', u"\\s"_s);
+}
+
 QString DesktopEntry::quotedForExec(const QString &filePath)
 {
     QString quoted = u"\""_s;

@@ -39,6 +39,9 @@ public:
     /// The file name of the program that `Exec` starts; empty when it starts none.
     [[nodiscard]] QString executableName() const;
 
+    /// A text as the value of a key, with what it cannot hold escaped.
+    static QString escaped(const QString &text);
+
     /// A file path as one argument of an `Exec` value.
     static QString quotedForExec(const QString &filePath);
 

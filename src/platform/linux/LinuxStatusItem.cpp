@@ -8,10 +8,10 @@
 
 namespace keyvora {
 
-LinuxStatusItem::LinuxStatusItem(const QIcon &icon, const QDBusConnection &sessionBus,
+LinuxStatusItem::LinuxStatusItem(const StatusIcon &icon, const QDBusConnection &sessionBus,
                                  X11Connection *connection, QObject *parent)
     : StatusItem(parent)
-    , m_icon(icon)
+    , m_picture(icon.picture)
     , m_notifierItem(icon, sessionBus)
     , m_embeddingTray(connection != nullptr ? std::make_unique<XEmbedTray>(*connection) : nullptr)
 {
@@ -60,7 +60,7 @@ void LinuxStatusItem::update()
 void LinuxStatusItem::showEmbedded(bool isShown)
 {
     if (isShown && !m_embeddedIcon) {
-        m_embeddedIcon = std::make_unique<XEmbedTrayIcon>(m_icon);
+        m_embeddedIcon = std::make_unique<XEmbedTrayIcon>(m_picture);
         connect(m_embeddedIcon.get(), &XEmbedTrayIcon::activated, this,
                 [this](QPoint position) { emit activated(position, QString()); });
     }

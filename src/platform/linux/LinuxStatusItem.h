@@ -4,6 +4,7 @@
 #pragma once
 
 #include "platform/StatusItem.h"
+#include "platform/linux/StatusIcon.h"
 #include "platform/linux/StatusNotifierItem.h"
 
 #include <QDBusConnection>
@@ -25,7 +26,7 @@ class LinuxStatusItem : public StatusItem
 
 public:
     /// The connection is borrowed and must outlive the object; without one, XEmbed status areas are not used.
-    LinuxStatusItem(const QIcon &icon, const QDBusConnection &sessionBus, X11Connection *connection,
+    LinuxStatusItem(const StatusIcon &icon, const QDBusConnection &sessionBus, X11Connection *connection,
                     QObject *parent = nullptr);
     ~LinuxStatusItem() override;
 
@@ -37,7 +38,7 @@ private:
     void update();
     void showEmbedded(bool isShown);
 
-    QIcon m_icon;
+    QIcon m_picture;
     StatusNotifierItem m_notifierItem;
     std::unique_ptr<XEmbedTray> m_embeddingTray;
     std::unique_ptr<XEmbedTrayIcon> m_embeddedIcon; ///< null until such a status area is used

@@ -57,6 +57,7 @@ PortalAppearance::PortalAppearance(const QDBusConnection &sessionBus, QObject *p
                   SLOT(settingAnnounced(QDBusMessage)));
     read(appearanceGroup, u"color-scheme"_s);
     read(appearanceGroup, u"contrast"_s);
+    read(appearanceGroup, u"reduced-motion"_s);
     read(accessibilityGroup, u"high-contrast"_s);
     read(interfaceGroup, u"enable-animations"_s);
     qGuiApp->installEventFilter(this);
@@ -98,6 +99,8 @@ void PortalAppearance::settingChanged(const QString &group, const QString &key, 
         m_prefersDark = scheme == 1 ? std::optional(true) : scheme == 2 ? std::optional(false) : std::nullopt;
     } else if (group == appearanceGroup && key == "contrast"_L1) {
         m_portalContrast = typed<uint>(setting) == 1;
+    } else if (group == appearanceGroup && key == "reduced-motion"_L1) {
+        m_portalReducesMotion = typed<uint>(setting) == 1;
     } else if (group == accessibilityGroup && key == "high-contrast"_L1) {
         m_desktopContrast = typed<bool>(setting).value_or(false);
     } else if (group == interfaceGroup && key == "enable-animations"_L1) {
@@ -113,7 +116,7 @@ void PortalAppearance::update()
     const Preferences preferences{
         .isDark = m_prefersDark.value_or(isPaletteDark()),
         .highContrast = m_portalContrast || m_desktopContrast,
-        .reducedMotion = !m_animations,
+        .reducedMotion = m_portalReducesMotion || !m_animations,
     };
     if (preferences == m_preferences)
         return;

@@ -40,6 +40,7 @@ private:
     std::optional<bool> m_prefersDark;
     bool m_portalContrast = false;
     bool m_desktopContrast = false;
+    bool m_portalReducesMotion = false;
     bool m_animations = true;
 };
 

@@ -48,10 +48,10 @@ void whenFinished(const QDBusPendingCall &call, QObject *context, Handler handle
 
 } // namespace
 
-StatusNotifierItem::StatusNotifierItem(const QIcon &icon, const QDBusConnection &sessionBus, QObject *parent)
+StatusNotifierItem::StatusNotifierItem(StatusIcon icon, const QDBusConnection &sessionBus, QObject *parent)
     : QObject(parent)
     , m_bus(sessionBus)
-    , m_icon(icon)
+    , m_icon(std::move(icon))
 {
     if (!m_bus.isConnected()) {
         m_hasHost = false;
@@ -102,7 +102,7 @@ QString StatusNotifierItem::id() const
 IconPixmapList StatusNotifierItem::pixmaps() const
 {
     if (m_pixmaps.isEmpty())
-        m_pixmaps = iconPixmaps(m_icon);
+        m_pixmaps = iconPixmaps(m_icon.picture);
     return m_pixmaps;
 }
 

@@ -4,11 +4,11 @@
 #pragma once
 
 #include "platform/linux/IconPixmap.h"
+#include "platform/linux/StatusIcon.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusObjectPath>
-#include <QIcon>
 #include <QObject>
 #include <QPoint>
 #include <QString>
@@ -30,7 +30,7 @@ class StatusNotifierItem : public QObject
     Q_PROPERTY(QString Title READ title CONSTANT)
     Q_PROPERTY(QString Status READ status CONSTANT)
     Q_PROPERTY(int WindowId READ windowId CONSTANT)
-    Q_PROPERTY(QString IconName READ noName CONSTANT)
+    Q_PROPERTY(QString IconName READ iconName CONSTANT)
     Q_PROPERTY(keyvora::IconPixmapList IconPixmap READ pixmaps CONSTANT)
     Q_PROPERTY(QString OverlayIconName READ noName CONSTANT)
     Q_PROPERTY(keyvora::IconPixmapList OverlayIconPixmap READ noPixmaps CONSTANT)
@@ -42,7 +42,7 @@ class StatusNotifierItem : public QObject
     Q_PROPERTY(QDBusObjectPath Menu READ menu CONSTANT)
 
 public:
-    StatusNotifierItem(const QIcon &icon, const QDBusConnection &sessionBus, QObject *parent = nullptr);
+    StatusNotifierItem(StatusIcon icon, const QDBusConnection &sessionBus, QObject *parent = nullptr);
     ~StatusNotifierItem() override;
 
     /// Whether a status area shows the icon; no value while that is being asked for the first time, of a new
@@ -57,6 +57,7 @@ public:
     [[nodiscard]] QString title() const;
     [[nodiscard]] QString status() const;
     [[nodiscard]] int windowId() const { return 0; }
+    [[nodiscard]] QString iconName() const { return m_icon.themeName; }
     [[nodiscard]] QString noName() const { return {}; }
     /// Drawn when the first status area asks, which may be never.
     [[nodiscard]] IconPixmapList pixmaps() const;
@@ -86,7 +87,7 @@ private:
     void setHasHost(bool hasHost);
 
     QDBusConnection m_bus;
-    QIcon m_icon;
+    StatusIcon m_icon;
     mutable IconPixmapList m_pixmaps;
     QString m_activationToken;
     QString m_watcher; ///< the unique name of its connection; empty without one

@@ -52,8 +52,10 @@ TerminationSignals::TerminationSignals(QObject *parent)
 
 TerminationSignals::~TerminationSignals()
 {
+    // A process that ends already must not be cut off by a second signal before it is done.
+    const bool endsAlready = m_notifier != nullptr && !m_notifier->isEnabled();
     for (const int signal : handledSignals)
-        std::signal(signal, SIG_DFL);
+        std::signal(signal, endsAlready ? SIG_IGN : SIG_DFL);
     if (m_notifier == nullptr)
         return;
     m_notifier->setEnabled(false);

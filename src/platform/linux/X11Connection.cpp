@@ -16,14 +16,6 @@ namespace {
 template <typename Reply>
 using XcbReply = std::unique_ptr<Reply, decltype(&std::free)>;
 
-xcb_window_t rootOfScreen(xcb_connection_t *connection, int screenNumber)
-{
-    xcb_screen_iterator_t screens = xcb_setup_roots_iterator(xcb_get_setup(connection));
-    for (int i = 0; i < screenNumber && screens.rem > 1; ++i)
-        xcb_screen_next(&screens);
-    return screens.data->root;
-}
-
 } // namespace
 
 std::unique_ptr<X11Connection> X11Connection::open()
@@ -35,6 +27,14 @@ std::unique_ptr<X11Connection> X11Connection::open()
         return nullptr;
     }
     return std::unique_ptr<X11Connection>(new X11Connection(connection, screenNumber));
+}
+
+xcb_window_t X11Connection::rootOfScreen(xcb_connection_t *connection, int screenNumber)
+{
+    xcb_screen_iterator_t screens = xcb_setup_roots_iterator(xcb_get_setup(connection));
+    for (int i = 0; i < screenNumber && screens.rem > 1; ++i)
+        xcb_screen_next(&screens);
+    return screens.data->root;
 }
 
 X11Connection::X11Connection(xcb_connection_t *connection, int screenNumber)
@@ -66,6 +66,13 @@ xcb_atom_t X11Connection::atom(const QByteArray &name)
     return atom;
 }
 
+const xcb_query_extension_reply_t *X11Connection::extension(xcb_extension_t &extension)
+{
+    const xcb_query_extension_reply_t *reply = xcb_get_extension_data(m_connection, &extension);
+    readLater();
+    return reply != nullptr && reply->present != 0 ? reply : nullptr;
+}
+
 void X11Connection::selectRootEvents(uint32_t mask)
 {
     m_rootEvents |= mask;
@@ -92,17 +99,29 @@ void X11Connection::readProperty(xcb_window_t window, const QByteArray &name, ui
 
 void X11Connection::expectReply(unsigned int sequence, ReplyHandler handler)
 {
-    m_pendingReplies.push_back({sequence, std::move(handler)});
+    m_pendingReplies.push_back(
+        {sequence, [handler = std::move(handler)](const void *reply, bool /*hasFailed*/) {
+             handler(reply);
+         }});
     flush();
+}
+
+void X11Connection::expectOutcome(unsigned int sequence, OutcomeHandler handler)
+{
+    m_pendingReplies.push_back(
+        {sequence, [handler = std::move(handler)](const void * /*reply*/, bool hasFailed) {
+             handler(!hasFailed);
+         }});
+    // Success is silent: that the server has come past the request shows in the answer to a later one.
+    expectReply(xcb_get_input_focus(m_connection).sequence, [](const void * /*reply*/) {});
 }
 
 void X11Connection::finishPendingReplies()
 {
     while (!m_pendingReplies.empty()) {
-        const PendingReply pending = std::move(m_pendingReplies.front());
-        m_pendingReplies.pop_front();
-        const XcbReply<void> reply(xcb_wait_for_reply(m_connection, pending.sequence, nullptr), &std::free);
-        pending.handler(reply.get());
+        xcb_generic_error_t *failure = nullptr;
+        void *data = xcb_wait_for_reply(m_connection, m_pendingReplies.front().sequence, &failure);
+        finish(data, failure);
     }
     readLater();
 }
@@ -147,13 +166,18 @@ bool X11Connection::dispatchReplies()
         if (xcb_poll_for_reply(m_connection, m_pendingReplies.front().sequence, &data, &failure) == 0)
             break;
         hasFound = true;
-        const XcbReply<void> reply(data, &std::free);
-        const XcbReply<xcb_generic_error_t> error(failure, &std::free);
-        const PendingReply pending = std::move(m_pendingReplies.front());
-        m_pendingReplies.pop_front();
-        pending.handler(reply.get());
+        finish(data, failure);
     }
     return hasFound;
+}
+
+void X11Connection::finish(void *reply, xcb_generic_error_t *failure)
+{
+    const XcbReply<void> ownedReply(reply, &std::free);
+    const XcbReply<xcb_generic_error_t> ownedFailure(failure, &std::free);
+    const PendingReply pending = std::move(m_pendingReplies.front());
+    m_pendingReplies.pop_front();
+    pending.handler(reply, failure != nullptr);
 }
 
 bool X11Connection::dispatchEvents(xcb_generic_event_t *(*nextEvent)(xcb_connection_t *))

@@ -29,10 +29,15 @@ public:
     using PropertyHandler = std::function<void(const QByteArray &value)>;
     /// Receives a reply or, when the request failed, null. The reply is freed after the call.
     using ReplyHandler = std::function<void(const void *reply)>;
+    /// Receives whether the server did what it was asked for.
+    using OutcomeHandler = std::function<void(bool isDone)>;
 
     /// Connects to the display of the environment; null where there is none.
     static std::unique_ptr<X11Connection> open();
     ~X11Connection() override;
+
+    /// The root window of one of a connection's screens, or of the last where there are fewer.
+    static xcb_window_t rootOfScreen(xcb_connection_t *connection, int screenNumber);
 
     [[nodiscard]] xcb_connection_t *xcb() const { return m_connection; }
     [[nodiscard]] xcb_window_t root() const { return m_root; }
@@ -40,6 +45,10 @@ public:
 
     /// The atom of this name. Asks the server once per name, in one round trip.
     xcb_atom_t atom(const QByteArray &name);
+
+    /// What the server says about an extension; null where it has none of the kind. Asks once per extension,
+    /// in one round trip.
+    const xcb_query_extension_reply_t *extension(xcb_extension_t &extension);
 
     /// Adds to the core events that this connection receives for the root window (`XCB_EVENT_MASK_…`).
     void selectRootEvents(uint32_t mask);
@@ -50,6 +59,10 @@ public:
 
     /// Calls the handler once the reply to the request with this sequence number is there.
     void expectReply(unsigned int sequence, ReplyHandler handler);
+
+    /// Calls the handler once it is known what became of a request that has no reply and that was made by a
+    /// `…_checked` function.
+    void expectOutcome(unsigned int sequence, OutcomeHandler handler);
 
     /// Waits for every outstanding reply, and those that their handlers ask for. For start-up only.
     void finishPendingReplies();
@@ -65,10 +78,11 @@ private:
     struct PendingReply
     {
         unsigned int sequence;
-        ReplyHandler handler;
+        std::function<void(const void *reply, bool hasFailed)> handler;
     };
 
     X11Connection(xcb_connection_t *connection, int screenNumber);
+    void finish(void *reply, xcb_generic_error_t *failure);
     void readLater();
     void readAvailable();
     // Both tell whether there was anything.

@@ -7,8 +7,8 @@
 
 #include <QPointer>
 
+#include <algorithm>
 #include <cstring>
-#include <memory>
 #include <utility>
 
 namespace keyvora {
@@ -16,25 +16,18 @@ namespace keyvora {
 namespace {
 
 constexpr uint32_t maximumClassBytes = 1024;
-constexpr uint32_t maximumTypeBytes = 64;
+constexpr uint32_t maximumAtomBytes = 64;
+constexpr uint32_t maximumWindows = 4096;
 constexpr qsizetype maximumKnownNames = 512;
 
-std::optional<quint32> firstCardinal(const QByteArray &property)
+/// Windows, atoms and cardinals alike; what is left over at the end is none.
+QList<quint32> numbers(const QByteArray &property)
 {
-    quint32 value = 0;
-    if (property.size() < static_cast<qsizetype>(sizeof value))
-        return std::nullopt;
-    std::memcpy(&value, property.constData(), sizeof value);
-    return value;
-}
-
-bool holdsAtom(const QByteArray &property, xcb_atom_t atom)
-{
-    for (qsizetype offset = 0; offset < property.size(); offset += static_cast<qsizetype>(sizeof atom)) {
-        if (firstCardinal(property.sliced(offset)) == atom)
-            return true;
-    }
-    return false;
+    QList<quint32> values(property.size() / static_cast<qsizetype>(sizeof(quint32)));
+    if (!values.isEmpty())
+        std::memcpy(values.data(), property.constData(),
+                    static_cast<size_t>(values.size()) * sizeof(quint32));
+    return values;
 }
 
 } // namespace
@@ -66,26 +59,11 @@ void X11Workspace::handleEvent(const xcb_generic_event_t *event)
         readActiveWindow();
 }
 
-void X11Workspace::readActiveWindow()
+void X11Workspace::readWindow(xcb_window_t window, const FactsHandler &handler)
 {
-    m_connection.readProperty(m_connection.root(), "_NET_ACTIVE_WINDOW", sizeof(xcb_window_t),
-                              [self = QPointer(this)](const QByteArray &value) {
-                                  // Some window managers write two values; the first is the window.
-                                  if (self)
-                                      self->readWindow(firstCardinal(value).value_or(XCB_WINDOW_NONE));
-                              });
-}
-
-void X11Workspace::readWindow(xcb_window_t window)
-{
-    const quint64 reading = ++m_reading;
-    if (window == XCB_WINDOW_NONE) {
-        m_frontmost.reset();
-        return;
-    }
     const auto facts = std::make_shared<WindowFacts>();
     m_connection.readProperty(window, "_NET_WM_PID", sizeof(quint32), [facts](const QByteArray &value) {
-        const quint32 pid = firstCardinal(value).value_or(0);
+        const quint32 pid = numbers(value).value(0);
         if (pid != 0 && std::in_range<qint32>(pid))
             facts->pid = static_cast<qint32>(pid);
     });
@@ -94,22 +72,53 @@ void X11Workspace::readWindow(xcb_window_t window)
         [facts](const QByteArray &value) { facts->identity.gtkApplicationId = QString::fromUtf8(value); });
     const xcb_atom_t dock = m_connection.atom("_NET_WM_WINDOW_TYPE_DOCK");
     const xcb_atom_t desktop = m_connection.atom("_NET_WM_WINDOW_TYPE_DESKTOP");
-    m_connection.readProperty(
-        window, "_NET_WM_WINDOW_TYPE", maximumTypeBytes, [facts, dock, desktop](const QByteArray &value) {
-            facts->isPartOfDesktop = holdsAtom(value, dock) || holdsAtom(value, desktop);
-        });
+    const xcb_atom_t normal = m_connection.atom("_NET_WM_WINDOW_TYPE_NORMAL");
+    m_connection.readProperty(window, "_NET_WM_WINDOW_TYPE", maximumAtomBytes,
+                              [facts, dock, desktop, normal](const QByteArray &value) {
+                                  const QList<quint32> types = numbers(value);
+                                  facts->isPartOfDesktop = types.contains(dock) || types.contains(desktop);
+                                  facts->isInTaskList = types.isEmpty() || types.contains(normal);
+                              });
+    const xcb_atom_t skipped = m_connection.atom("_NET_WM_STATE_SKIP_TASKBAR");
+    m_connection.readProperty(window, "_NET_WM_STATE", maximumAtomBytes,
+                              [facts, skipped](const QByteArray &value) {
+                                  if (numbers(value).contains(skipped))
+                                      facts->isInTaskList = false;
+                              });
     // Answers come in the order of the questions, so that this one completes the facts.
     m_connection.readProperty(window, "WM_CLASS", maximumClassBytes,
-                              [self = QPointer(this), facts, reading](const QByteArray &value) {
+                              [facts, handler](const QByteArray &value) {
                                   const QList<QByteArray> parts = value.split('\0');
                                   facts->identity.windowInstance = QString::fromUtf8(parts.value(0));
                                   facts->identity.windowClass = QString::fromUtf8(parts.value(1));
-                                  if (self)
-                                      self->windowRead(reading, *facts);
+                                  handler(*facts);
                               });
 }
 
-void X11Workspace::windowRead(quint64 reading, const WindowFacts &facts)
+void X11Workspace::readActiveWindow()
+{
+    m_connection.readProperty(m_connection.root(), "_NET_ACTIVE_WINDOW", sizeof(xcb_window_t),
+                              [self = QPointer(this)](const QByteArray &value) {
+                                  // Some window managers write two values; the first is the window.
+                                  if (self)
+                                      self->activeWindowAnnounced(numbers(value).value(0));
+                              });
+}
+
+void X11Workspace::activeWindowAnnounced(xcb_window_t window)
+{
+    const quint64 reading = ++m_reading;
+    if (window == XCB_WINDOW_NONE) {
+        m_frontmost.reset();
+        return;
+    }
+    readWindow(window, [self = QPointer(this), reading](const WindowFacts &facts) {
+        if (self)
+            self->activeWindowRead(reading, facts);
+    });
+}
+
+void X11Workspace::activeWindowRead(quint64 reading, const WindowFacts &facts)
 {
     if (reading != m_reading || facts.isPartOfDesktop)
         return;
@@ -125,30 +134,105 @@ void X11Workspace::windowRead(quint64 reading, const WindowFacts &facts)
         return;
     }
     m_frontmost = RunningApplication{ApplicationNames::fallback(facts.identity), facts.pid};
-    findName(activation, facts.identity);
+    findNames({facts.identity}, [this, activation, identity = facts.identity](const Names &names) {
+        if (activation != m_activation || !m_frontmost)
+            return;
+        m_frontmost->name = names.value(identity);
+        emit applicationActivated(*m_frontmost);
+    });
 }
 
-void X11Workspace::findName(quint64 activation, const WindowIdentity &identity)
+QFuture<QList<RunningApplication>> X11Workspace::runningApplications()
+{
+    const auto survey = std::make_shared<Survey>();
+    survey->promise.start();
+    m_connection.readProperty(m_connection.root(), "_NET_CLIENT_LIST", maximumWindows * sizeof(xcb_window_t),
+                              [self = QPointer(this), survey](const QByteArray &value) {
+                                  if (self)
+                                      self->windowsAnnounced(value, survey);
+                              });
+    return survey->promise.future();
+}
+
+void X11Workspace::windowsAnnounced(const QByteArray &windows, const std::shared_ptr<Survey> &survey)
+{
+    const QList<quint32> announced = numbers(windows);
+    survey->unread = announced.size();
+    if (announced.isEmpty())
+        tell(*survey, {});
+    for (const xcb_window_t window : announced) {
+        readWindow(window, [self = QPointer(this), survey](const WindowFacts &facts) {
+            if (self)
+                self->windowRead(facts, survey);
+        });
+    }
+}
+
+void X11Workspace::windowRead(const WindowFacts &facts, const std::shared_ptr<Survey> &survey)
+{
+    const bool isKnown = std::any_of(survey->windows.cbegin(), survey->windows.cend(),
+                                     [&](const WindowFacts &other) { return other.pid == facts.pid; });
+    if (facts.isInTaskList && facts.pid && !isKnown)
+        survey->windows.append(facts);
+    if (--survey->unread == 0)
+        windowsRead(survey);
+}
+
+void X11Workspace::windowsRead(const std::shared_ptr<Survey> &survey)
+{
+    Names known;
+    QList<WindowIdentity> unknown;
+    for (const WindowFacts &window : std::as_const(survey->windows)) {
+        const auto name = m_knownNames.constFind(window.identity);
+        if (name != m_knownNames.constEnd())
+            known.insert(window.identity, *name);
+        else if (!unknown.contains(window.identity))
+            unknown.append(window.identity);
+    }
+    if (unknown.isEmpty()) {
+        tell(*survey, known);
+        return;
+    }
+    findNames(unknown, [survey, known](const Names &found) {
+        Names names = known;
+        names.insert(found);
+        tell(*survey, names);
+    });
+}
+
+void X11Workspace::tell(Survey &survey, const Names &names)
+{
+    QList<RunningApplication> applications;
+    for (const WindowFacts &window : std::as_const(survey.windows))
+        applications.append({names.value(window.identity), window.pid});
+    survey.promise.addResult(applications);
+    survey.promise.finish();
+}
+
+void X11Workspace::findNames(const QList<WindowIdentity> &identities, const NamesHandler &handler)
 {
     // The destructor waits for the search, so that `this` and the names outlive it.
-    m_nameSearch.start([this, activation, identity] {
-        const QString name = m_names.find(identity);
+    m_nameSearch.start([this, identities, handler] {
+        Names names;
+        for (const WindowIdentity &identity : identities) {
+            const QString name = m_names.find(identity);
+            names.insert(identity, name.isEmpty() ? ApplicationNames::fallback(identity) : name);
+        }
         QMetaObject::invokeMethod(
-            this, [this, activation, identity, name] { nameFound(activation, identity, name); },
+            this,
+            [this, names, handler] {
+                remember(names);
+                handler(names);
+            },
             Qt::QueuedConnection);
     });
 }
 
-void X11Workspace::nameFound(quint64 activation, const WindowIdentity &identity, const QString &name)
+void X11Workspace::remember(const Names &names)
 {
-    const QString shown = name.isEmpty() ? ApplicationNames::fallback(identity) : name;
-    if (m_knownNames.size() >= maximumKnownNames)
+    if (m_knownNames.size() + names.size() > maximumKnownNames)
         m_knownNames.clear();
-    m_knownNames.insert(identity, shown);
-    if (activation != m_activation || !m_frontmost)
-        return;
-    m_frontmost->name = shown;
-    emit applicationActivated(*m_frontmost);
+    m_knownNames.insert(names);
 }
 
 } // namespace keyvora

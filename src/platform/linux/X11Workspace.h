@@ -7,15 +7,18 @@
 #include "platform/linux/ApplicationNames.h"
 
 #include <QHash>
+#include <QPromise>
 #include <QThreadPool>
 
+#include <functional>
+#include <memory>
 #include <xcb/xcb.h>
 
 namespace keyvora {
 
 class X11Connection;
 
-/// Follows the active window that the window manager announces on the root window.
+/// Follows the active window, and knows the windows, that the window manager announces on the root window.
 /// https://specifications.freedesktop.org/wm-spec/latest/
 class X11Workspace : public Workspace
 {
@@ -30,6 +33,7 @@ public:
     {
         return m_frontmost;
     }
+    [[nodiscard]] QFuture<QList<RunningApplication>> runningApplications() override;
 
 private:
     struct WindowFacts
@@ -37,18 +41,37 @@ private:
         WindowIdentity identity;
         std::optional<qint32> pid;
         bool isPartOfDesktop = false; ///< a panel or the desktop's background, which belong to no application
+        bool isInTaskList = false;    ///< an ordinary window, which the task list shows
+    };
+    using FactsHandler = std::function<void(const WindowFacts &facts)>;
+    using Names = QHash<WindowIdentity, QString>;
+    using NamesHandler = std::function<void(const Names &names)>;
+
+    /// The windows of the task list, of which each process is to be told once.
+    struct Survey
+    {
+        QPromise<QList<RunningApplication>> promise;
+        QList<WindowFacts> windows;
+        qsizetype unread = 0;
     };
 
     void handleEvent(const xcb_generic_event_t *event);
+    /// Calls the handler when the window has told everything; a window that is gone tells nothing.
+    void readWindow(xcb_window_t window, const FactsHandler &handler);
     void readActiveWindow();
-    void readWindow(xcb_window_t window);
-    void windowRead(quint64 reading, const WindowFacts &facts);
-    void findName(quint64 activation, const WindowIdentity &identity);
-    void nameFound(quint64 activation, const WindowIdentity &identity, const QString &name);
+    void activeWindowAnnounced(xcb_window_t window);
+    void activeWindowRead(quint64 reading, const WindowFacts &facts);
+    void windowsAnnounced(const QByteArray &windows, const std::shared_ptr<Survey> &survey);
+    void windowRead(const WindowFacts &facts, const std::shared_ptr<Survey> &survey);
+    void windowsRead(const std::shared_ptr<Survey> &survey);
+    static void tell(Survey &survey, const Names &names);
+    /// Calls the handler with the names of these, found on another thread.
+    void findNames(const QList<WindowIdentity> &identities, const NamesHandler &handler);
+    void remember(const Names &names);
 
     X11Connection &m_connection;
     ApplicationNames m_names;
-    QHash<WindowIdentity, QString> m_knownNames;
+    Names m_knownNames;
     std::optional<RunningApplication> m_frontmost;
     quint64 m_reading = 0;    ///< counts announcements, so that a late answer to an earlier one is dropped
     quint64 m_activation = 0; ///< counts what came to the front, so that a name found too late is dropped

@@ -74,10 +74,13 @@ std::optional<PlatformError> XdgAutostart::write(bool hidden) const
         "Comment=Keyboard shortcuts at hand\n"
         "Comment[cs]=Klávesové zkratky po ruce\n"
         "Exec=%1\n"
+        // Where the program has been removed since, desktops pass over the entry.
+        "TryExec=%2\n"
         "Icon=app.keyvora.Keyvora\n"
         "Terminal=false\n"
         "StartupNotify=false\n"
-        "Hidden=%2\n"_s.arg(DesktopEntry::quotedForExec(m_executable), hidden ? u"true"_s : u"false"_s);
+        "Hidden=%3\n"_s.arg(DesktopEntry::quotedForExec(m_executable), DesktopEntry::escaped(m_executable),
+                            hidden ? u"true"_s : u"false"_s);
     QString reason;
     if (!replaceFile(m_entryPath, entry.toUtf8(), &reason))
         return PlatformError{reason};

@@ -82,4 +82,20 @@ TEST(DisplayableForeignText, SaysThatSomethingIsMissingBehindLongPadding)
     EXPECT_EQ(displayableForeignText(u"a"_s + QString(10'000, u' ') + u"b"_s, 10), u"a…"_s);
 }
 
+TEST(HarmlessForeignText, KeepsWhiteSpaceInside)
+{
+    EXPECT_EQ(harmlessForeignText(u"  a  b\u00A0c "_s, 100), u"a  b\u00A0c"_s);
+}
+
+TEST(HarmlessForeignText, TurnsWhatWouldDoHarmIntoSpaces)
+{
+    EXPECT_EQ(harmlessForeignText(u"a\u0007\u202Eb"_s, 100), u"a  b"_s);
+}
+
+TEST(HarmlessForeignText, CutsALongTextAndSaysSo)
+{
+    EXPECT_EQ(harmlessForeignText(QString(1'000'000, u'a'), 10), QString(9, u'a') + u'…');
+    EXPECT_EQ(harmlessForeignText(QString(10, u'a'), 10), QString(10, u'a'));
+}
+
 } // namespace keyvora

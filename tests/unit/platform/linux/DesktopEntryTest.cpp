@@ -159,6 +159,16 @@ TEST(DesktopEntry, GetsBackWhatItQuoted)
     }
 }
 
+TEST(DesktopEntry, GetsBackWhatItEscaped)
+{
+    for (const auto &text : {u"/usr/bin/keyvora"_s, u" key  vora "_s, uR"(\\\s\n)"_s, u"key\tvora\r"_s,
+                             u"a\nHidden=true\n"_s, u"kůň ⌘"_s}) {
+        const auto entry = entryWith("Name=" + DesktopEntry::escaped(text).toUtf8());
+        EXPECT_EQ(entry.value(u"Name"_s), text);
+        EXPECT_FALSE(entry.flag(u"Hidden"_s, false));
+    }
+}
+
 TEST(DesktopEntry, QuotesSoThatNoLineIsAdded)
 {
     const auto entry = entryWith("Exec=" + DesktopEntry::quotedForExec(u"/opt/a\nHidden=true"_s).toUtf8());

@@ -43,6 +43,18 @@ TEST(TerminationSignals, ArriveOnceHoweverManyThereAre)
     EXPECT_EQ(requests.size(), 1);
 }
 
+TEST(TerminationSignals, DoNotCutOffAProcessThatEndsAlready)
+{
+    {
+        const TerminationSignals termination;
+        QSignalSpy requests(&termination, &TerminationSignals::terminationRequested);
+        ASSERT_EQ(raise(SIGTERM), 0);
+        ASSERT_TRUE(requests.wait());
+    }
+    for (const int signal : endingSignals)
+        ASSERT_EQ(raise(signal), 0) << "and the process is still there";
+}
+
 TEST(TerminationSignals, HaveTheirUsualEffectAgainAfterwards)
 {
     {

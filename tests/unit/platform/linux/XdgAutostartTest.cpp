@@ -26,7 +26,7 @@ const QByteArray hiddenEntry = plainEntry + "Hidden=true\n";
 class ConfigDirs
 {
 public:
-    [[nodiscard]] XdgAutostart autostart(const QString &executable = u"/usr/bin/keyvora"_s) const
+    [[nodiscard]] XdgAutostart autostart(const QString &executable = u"/bin/sh"_s) const
     {
         return {m_folder.filePath(u"home"_s),
                 {m_folder.filePath(u"site"_s), m_folder.filePath(u"system"_s)},
@@ -87,6 +87,7 @@ TEST(XdgAutostart, WritesAnEntryThatStartsTheProgram)
     EXPECT_EQ(entry.value(u"Type"_s), u"Application"_s);
     EXPECT_EQ(entry.value(u"Name"_s), u"Keyvora"_s);
     EXPECT_EQ(entry.value(u"Exec"_s), u"\"/opt/my apps/keyvora\""_s);
+    EXPECT_EQ(entry.value(u"TryExec"_s), u"/opt/my apps/keyvora"_s);
     EXPECT_EQ(entry.value(u"Icon"_s), u"app.keyvora.Keyvora"_s);
 }
 
@@ -116,6 +117,20 @@ TEST(XdgAutostart, WritesAnEntryThatDesktopsCanStart)
                   "started\n")
             << name.toStdString();
     }
+}
+
+TEST(XdgAutostart, IsOffOnceTheProgramIsRemoved)
+{
+    const ConfigDirs dirs;
+    const QTemporaryDir folder;
+    const QString program = folder.filePath(u"a \\n program \n"_s);
+    ASSERT_TRUE(writeFile(program, ""));
+    ASSERT_TRUE(QFile::setPermissions(program, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+    XdgAutostart autostart = dirs.autostart(program);
+    ASSERT_EQ(autostart.setEnabled(true), std::nullopt);
+    EXPECT_TRUE(autostart.isEnabled());
+    ASSERT_TRUE(QFile::remove(program));
+    EXPECT_FALSE(autostart.isEnabled());
 }
 
 TEST(XdgAutostart, TakesOverTheUsersEntry)
