@@ -3,11 +3,18 @@
 
 #pragma once
 
+#include "platform/linux/StatusIcon.h"
+
 #include <QIcon>
+#include <QStringList>
 
 namespace keyvora {
 
-/// The program's own icon, for its windows and the tray.
+/// The program's own icon, for its windows.
 QIcon applicationIcon();
+
+/// Its icon for the tray. `dataDirs` holds the folders that have an "icons" folder, where the program may be
+/// installed.
+StatusIcon trayIcon(const QStringList &dataDirs);
 
 } // namespace keyvora

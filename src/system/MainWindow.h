@@ -10,7 +10,7 @@ namespace keyvora {
 class AppMenu;
 class UserInterfaceLoader;
 
-/// Presents the main window: made at the first show, only hidden when closed.
+/// Presents the main window: made when it is shown, hidden when it is closed.
 class MainWindow
 {
 public:

@@ -21,6 +21,9 @@ public:
     /// The user interface; null when the installation lacks its library.
     UserInterface *get();
 
+    /// The user interface if it has been loaded, else null; loads nothing.
+    [[nodiscard]] UserInterface *loaded() const { return m_userInterface.get(); }
+
 private:
     QString m_libraryPath;
     ContextFactory m_makeContext;

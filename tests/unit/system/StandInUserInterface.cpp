@@ -17,10 +17,19 @@ public:
     }
 
     void showMainWindow(const QString & /*activationToken*/) override { m_context.quit(); }
-    void togglePanel(QPoint /*position*/) override { m_context.showMainWindow(); }
+    void togglePanel(QPoint /*position*/, const QString & /*activationToken*/) override
+    {
+        m_context.showMainWindow();
+    }
+    void showOverlay() override { m_isOverlayVisible = true; }
+    void hideOverlay() override { m_isOverlayVisible = false; }
+    [[nodiscard]] bool isOverlayVisible() const override { return m_isOverlayVisible; }
+    void showSuggestion() override {}
+    void askForTrust() override {}
 
 private:
     Context m_context;
+    bool m_isOverlayVisible = false;
 };
 
 } // namespace
