@@ -53,7 +53,7 @@ Rectangle {
         onActivated: root.Window.window.showMinimized()
     }
 
-    Rectangle {
+    RoundedRectangle {
         anchors.bottom: parent.bottom
         width: parent.width
         height: Theme.hairlineWidth
@@ -79,7 +79,7 @@ Rectangle {
                 }
                 T.MenuSeparator {
                     padding: 4
-                    contentItem: Rectangle {
+                    contentItem: RoundedRectangle {
                         implicitHeight: Theme.hairlineWidth
                         color: Theme.hairline
                     }

@@ -3,6 +3,7 @@
 
 import QtQuick
 import QtQuick.Templates as T
+import Keyvora
 
 // One command of a menu, with its keys at the right.
 T.MenuItem {
@@ -39,7 +40,7 @@ T.MenuItem {
             color: root.highlighted && root.enabled ? Theme.accentInk : Theme.secondaryInk
         }
     }
-    background: Rectangle {
+    background: RoundedRectangle {
         radius: 6
         color: root.highlighted && root.enabled ? Theme.accent : "transparent"
     }

@@ -3,6 +3,7 @@
 
 import QtQuick
 import QtQuick.Templates as T
+import Keyvora
 
 // A menu that drops down.
 T.Menu {
@@ -12,7 +13,7 @@ T.Menu {
     signal nextRequested
     signal previousRequested
 
-    implicitWidth: Math.max(180, contentItem.implicitWidth + leftPadding + rightPadding)
+    implicitWidth: Math.min(420, Math.max(180, contentItem.implicitWidth + leftPadding + rightPadding))
     implicitHeight: contentItem.implicitHeight + topPadding + bottomPadding
     padding: 5
     margins: 4
@@ -41,10 +42,10 @@ T.Menu {
             onActivated: root.previousRequested()
         }
     }
-    background: Rectangle {
+    background: RoundedRectangle {
         radius: 10
         color: Theme.sheet
-        border.width: Theme.hairlineWidth
-        border.color: Theme.hairline
+        borderWidth: Theme.hairlineWidth
+        borderColor: Theme.hairline
     }
 }

@@ -3,6 +3,7 @@
 
 import QtQuick
 import QtQuick.Templates as T
+import Keyvora
 
 // A menu's place in the menu bar. Pressing it opens the menu; while one is open, pointing is enough.
 T.MenuItem {
@@ -36,7 +37,7 @@ T.MenuItem {
         size: 12
         horizontalAlignment: Text.AlignHCenter
     }
-    background: Rectangle {
+    background: RoundedRectangle {
         radius: 6
         color: root.hovered || root.dropDown.visible ? Theme.softAccent : "transparent"
     }

@@ -3,12 +3,17 @@
 
 import QtQuick
 import QtQuick.Templates as T
+import Keyvora
 
-// A sheet over the dimmed window. Escape closes it.
+// A sheet over the dimmed window, as wide as it wants to be where the window allows it. Escape closes it.
 T.Popup {
     id: root
 
     property string title: ""
+    // What it shows.
+    property Item body: null
+    // Below which the body scrolls.
+    property real leastBodyHeight: root.body?.implicitHeight ?? 0
 
     parent: T.Overlay.overlay
     anchors.centerIn: parent
@@ -16,8 +21,14 @@ T.Popup {
     focus: true
     padding: 26
     closePolicy: T.Popup.CloseOnEscape
-    // Its own height, but never higher than the window.
+    // Its own size, but never larger than the window.
+    width: Math.min(implicitWidth, (parent?.width ?? 800) - 24)
     height: Math.min(implicitContentHeight + topPadding + bottomPadding, (parent?.height ?? 600) - 48)
+
+    contentItem: SheetBody {
+        body: root.body
+        leastHeight: root.leastBodyHeight
+    }
 
     T.Overlay.modal: Rectangle {
         color: Theme.dark ? Qt.rgba(0, 0, 0, 0.5) : Qt.rgba(0, 0, 0, 0.27)
@@ -28,12 +39,12 @@ T.Popup {
             cornerRadius: 18
             raised: true
         }
-        Rectangle {
+        RoundedRectangle {
             anchors.fill: parent
             radius: 18
             color: Theme.sheet
-            border.width: Theme.hairlineWidth
-            border.color: Theme.hairline
+            borderWidth: Theme.hairlineWidth
+            borderColor: Theme.hairline
             Accessible.role: Accessible.Dialog
             Accessible.name: root.title
         }

@@ -20,6 +20,8 @@ Rectangle {
         y: 30 - radius
         width: 2 * radius
         height: 2 * radius
+        // Both are large, and only this window has them.
+        cache: false
         source: "image://glow/" + root.firstGlow.r + "/" + root.firstGlow.g + "/" + root.firstGlow.b + "/" + root.firstGlow.a
     }
 
@@ -30,6 +32,7 @@ Rectangle {
         y: root.height - 10 - radius
         width: 2 * radius
         height: 2 * radius
+        cache: false
         source: "image://glow/" + root.secondGlow.r + "/" + root.secondGlow.g + "/" + root.secondGlow.b + "/" + root.secondGlow.a
     }
 }

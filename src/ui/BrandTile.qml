@@ -5,15 +5,21 @@ import QtQuick
 import QtQuick.Window
 
 // The program's own sign.
-Image {
+Item {
     id: root
 
     property real size: 32
-    readonly property int pixels: Math.round(root.size * Screen.devicePixelRatio)
 
-    width: root.size
-    height: root.size
-    sourceSize.width: root.pixels
-    sourceSize.height: root.pixels
-    source: "qrc:/keyvora/app.keyvora.Keyvora.svg"
+    // The image alone would take the place of as many pixels as it has, which are more where screens are dense.
+    implicitWidth: root.size
+    implicitHeight: root.size
+
+    Image {
+        readonly property int pixels: Math.round(root.size * Screen.devicePixelRatio)
+
+        anchors.fill: parent
+        sourceSize.width: pixels
+        sourceSize.height: pixels
+        source: "qrc:/keyvora/app.keyvora.Keyvora.svg"
+    }
 }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 import QtQuick
+import Keyvora
 
 // A rounded surface with a soft shadow that deepens when it is raised.
 Item {
@@ -26,11 +27,11 @@ Item {
         offset: 3
         percent: 10
     }
-    Rectangle {
+    RoundedRectangle {
         anchors.fill: parent
         radius: root.cornerRadius
         color: Theme.card
-        border.width: Theme.hairlineWidth
-        border.color: Theme.hairline
+        borderWidth: Theme.hairlineWidth
+        borderColor: Theme.hairline
     }
 }

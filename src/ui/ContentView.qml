@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 import QtQuick
+import QtQuick.Templates as T
 import QtQuick.Window
 import Keyvora
 
@@ -11,13 +12,27 @@ FocusScope {
 
     required property AppModel appModel
     required property SidebarModel sections
+    required property Learning learning
+    required property CheatSheets sheets
+    required property Settings settings
+    required property CustomShortcuts customs
     required property AppMenu appMenu
+    required property TrustController trust
+    required property UpdateChecker updates
+    required property KeyReader keyReader
     required property bool isFirstTime
 
     readonly property int minimumWidth: 980
     readonly property int minimumHeight: 650 + menuBar.implicitHeight
 
+    // A sheet or another window is open.
+    readonly property bool isInterrupted: sheet.item !== null || about.item !== null
+
+    readonly property bool showsLibrary: root.sections.page === SidebarModel.Page.Library
+
     property bool hasGreeted: false
+    // The settings gave way to the question, and come back after it.
+    property bool returnsToSettings: false
 
     function greet(window: Window): void {
         if (!root.isFirstTime || root.hasGreeted || window === null)
@@ -26,14 +41,97 @@ FocusScope {
         sheet.present("OnboardingView");
     }
 
+    function presentSettings(): void {
+        sheet.setSource("SettingsView.qml", {
+            "settings": root.settings,
+            "customs": root.customs
+        });
+    }
+
+    // Asks as soon as no other sheet is open. The settings, from where the person asked for it, give way.
+    function offerTrust(window: Window): void {
+        if (!root.trust.isAsked || window === null)
+            return;
+        if (sheet.item instanceof SettingsView) {
+            root.returnsToSettings = true;
+            (sheet.item as SettingsView).close();
+        } else if (sheet.item === null) {
+            sheet.setSource("TrustPrompt.qml", {
+                "controller": root.trust
+            });
+        }
+    }
+
+    function followSheet(): void {
+        sheet.source = "";
+        root.offerTrust(root.Window.window);
+        if (sheet.item !== null || !root.returnsToSettings)
+            return;
+        root.returnsToSettings = false;
+        root.presentSettings();
+    }
+
+    function presentWaitingSheets(window: Window): void {
+        root.greet(window);
+        root.offerTrust(window);
+    }
+
+    // Moves the keyboard into what the section shows.
+    function focusPage(): void {
+        if (root.showsLibrary)
+            library.focusCards();
+        else
+            page.focusFirst();
+    }
+
+    // Nobody would have the keyboard that was in what goes, and what is hidden would keep it.
+    onShowsLibraryChanged: {
+        if (root.showsLibrary && page.activeFocus)
+            library.focusCards();
+        else if (!root.showsLibrary && library.activeFocus)
+            page.forceActiveFocus();
+    }
     focus: true
     // Sheets need a window, which may come after the content.
-    onWindowChanged: window => root.greet(window)
-    Component.onCompleted: root.greet(root.Window.window)
+    onWindowChanged: window => root.presentWaitingSheets(window)
+    Component.onCompleted: root.presentWaitingSheets(root.Window.window)
+
+    Connections {
+        target: root.trust
+
+        function onIsAskedChanged(): void {
+            root.offerTrust(root.Window.window);
+        }
+    }
+    Connections {
+        target: root.appModel
+
+        function onShortcutRevealed(shortcutId: string): void {
+            library.reveal(shortcutId, sheet.item === null);
+        }
+    }
+
+    Connections {
+        target: root.Window.window
+
+        // Nothing may move under a pointer that is pressed.
+        function onActiveFocusItemChanged(): void {
+            const focused = root.Window.activeFocusItem;
+            if (!Theme.showsFocus)
+                return;
+            for (let item = focused; item !== null; item = item.parent) {
+                if (item === canvas)
+                    viewport.bringIntoView(focused);
+            }
+        }
+    }
 
     Shortcut {
         sequence: "Ctrl+F"
-        onActivated: topBar.focusSearch()
+        onActivated: {
+            topBar.focusSearch();
+            viewport.bringIntoView(root.Window.activeFocusItem);
+        }
     }
 
     Backdrop {
@@ -45,37 +143,160 @@ FocusScope {
         appMenu: root.appMenu
         onAboutRequested: about.present()
     }
-    Sidebar {
-        id: sidebar
+    // Screens may be narrower than the content, which scrolls sideways then; upwards and downwards its parts do.
+    Flickable {
+        id: viewport
+
+        // Scrolls as little as shows an item, or its beginning where it is wider than the window.
+        function bringIntoView(item: Item): void {
+            const left = item.mapToItem(canvas, 0, 0).x;
+            const leftmost = left + item.width + viewport.margin - viewport.width;
+            const x = Math.min(Math.max(viewport.contentX, leftmost), left - viewport.margin);
+            viewport.contentX = Math.max(0, Math.min(x, viewport.contentWidth - viewport.width));
+        }
+
+        readonly property int margin: 12
+
+        objectName: "viewport"
         anchors.top: menuBar.bottom
         anchors.bottom: parent.bottom
-        focus: true
-        sections: root.sections
-        onAddRequested: sheet.present("CustomShortcutEditor")
-        onSettingsRequested: sheet.present("SettingsView")
+        width: parent.width
+        contentWidth: Math.max(viewport.width, root.minimumWidth)
+        contentHeight: viewport.height
+        interactive: viewport.contentWidth > viewport.width
+        boundsBehavior: Flickable.StopAtBounds
+        flickableDirection: Flickable.HorizontalFlick
+
+        T.ScrollBar.horizontal: SlimScrollBar {}
+
+        Item {
+            id: canvas
+            width: viewport.contentWidth
+            height: viewport.height
+
+            Sidebar {
+                id: sidebar
+                anchors.top: parent.top
+                anchors.bottom: parent.bottom
+                focus: true
+                sections: root.sections
+                onAddRequested: sheet.setSource("CustomShortcutEditor.qml", {
+                    "draft": root.customs.draft,
+                    "keyReader": root.keyReader
+                })
+                onSettingsRequested: root.presentSettings()
+            }
+            TopBar {
+                id: topBar
+                anchors.top: parent.top
+                anchors.topMargin: 16
+                anchors.left: sidebar.right
+                anchors.leftMargin: 22
+                anchors.right: parent.right
+                anchors.rightMargin: 22
+                appModel: root.appModel
+                sections: root.sections
+                onLeftDownwards: root.focusPage()
+            }
+            UpdateBanner {
+                id: banner
+                anchors.top: topBar.bottom
+                anchors.topMargin: 16
+                anchors.left: topBar.left
+                anchors.right: topBar.right
+                updates: root.updates
+                onSkipped: hadFocus => {
+                    if (hadFocus)
+                        root.focusPage();
+                }
+            }
+            LibraryView {
+                id: library
+                anchors.top: banner.visible ? banner.bottom : topBar.bottom
+                anchors.topMargin: 18
+                anchors.bottom: parent.bottom
+                anchors.left: sidebar.right
+                anchors.right: parent.right
+                visible: root.showsLibrary
+                appModel: root.appModel
+            }
+            // The screens of their own exist while they are shown; what they know outlives them.
+            Loader {
+                id: page
+
+                function focusFirst(): void {
+                    if (page.item !== null)
+                        (page.item as ScrollPage).focusFirst();
+                }
+
+                function screen(of: int): Component {
+                    switch (of) {
+                    case SidebarModel.Page.Keyboard:
+                        return keyboardScreen;
+                    case SidebarModel.Page.Sticker:
+                        return stickerScreen;
+                    case SidebarModel.Page.FirstAid:
+                        return firstAidScreen;
+                    case SidebarModel.Page.Daily:
+                        return dailyScreen;
+                    case SidebarModel.Page.Practice:
+                        return practiceScreen;
+                    default:
+                        return null;
+                    }
+                }
+
+                anchors.fill: library
+                sourceComponent: page.screen(root.sections.page)
+            }
+        }
     }
-    TopBar {
-        id: topBar
-        anchors.top: menuBar.bottom
-        anchors.topMargin: 16
-        anchors.left: sidebar.right
-        anchors.leftMargin: 22
-        anchors.right: parent.right
-        anchors.rightMargin: 22
-        appModel: root.appModel
-        sections: root.sections
-        onLeftDownwards: library.focusCards()
+    // Qt 6.4 gives the linter no way to know that a component belongs to the one around it.
+    // qmllint disable unqualified
+    Component {
+        id: keyboardScreen
+
+        VisualKeyboardView {
+            appModel: root.appModel
+            keyboard: root.learning.keyboard
+        }
     }
-    LibraryView {
-        id: library
-        anchors.top: topBar.bottom
-        anchors.topMargin: 18
-        anchors.bottom: parent.bottom
-        anchors.left: sidebar.right
-        anchors.right: parent.right
-        visible: root.sections.showsLibrary
-        appModel: root.appModel
+    Component {
+        id: stickerScreen
+
+        StickerView {
+            appModel: root.appModel
+            sheets: root.sheets
+            onExportRequested: sheet.setSource("CheatSheetExportSheet.qml", {
+                "sheets": root.sheets
+            })
+        }
     }
+    Component {
+        id: firstAidScreen
+
+        FirstAidView {
+            appModel: root.appModel
+            groups: root.learning.firstAid
+        }
+    }
+    Component {
+        id: dailyScreen
+
+        DailyLearningView {
+            appModel: root.appModel
+            lesson: root.learning.lesson
+        }
+    }
+    Component {
+        id: practiceScreen
+
+        PracticeView {
+            practice: root.learning.practice
+            keyReader: root.keyReader
+        }
+    }
+    // qmllint enable unqualified
 
     // At most one sheet is open; it exists while it is.
     Loader {
@@ -91,7 +312,7 @@ FocusScope {
         target: sheet.item
 
         function onClosed(): void {
-            sheet.source = "";
+            root.followSheet();
         }
     }
     Loader {

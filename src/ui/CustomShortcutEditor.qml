@@ -8,25 +8,19 @@ import Keyvora
 AppSheet {
     id: root
 
+    required property CustomShortcutDraft draft
+    required property KeyReader keyReader
+
     title: Localized.czech ? "Přidat vlastní zkratku" : "Add Custom Shortcut"
-    width: 460
+    implicitWidth: 470
+    padding: 18
+    Component.onCompleted: root.draft.begin()
 
-    contentItem: FocusScope {
-        implicitHeight: 120
-
-        PlainLabel {
-            text: root.title
-            size: 17
-            font.weight: Theme.strongWeight
-            Accessible.role: Accessible.Heading
-            Accessible.name: text
-        }
-        GlassButton {
-            anchors.right: parent.right
-            anchors.bottom: parent.bottom
-            focus: true
-            text: Localized.czech ? "Zrušit" : "Cancel"
-            onClicked: root.close()
-        }
+    body: CustomShortcutForm {
+        focus: true
+        title: root.title
+        draft: root.draft
+        keyReader: root.keyReader
+        onDone: root.close()
     }
 }

@@ -2,9 +2,10 @@
 // SPDX-License-Identifier: MIT
 
 import QtQuick
+import Keyvora
 
 // Shows where the keyboard is; fills the control that it belongs to.
-Rectangle {
+RoundedRectangle {
     id: root
 
     required property Item control
@@ -15,7 +16,7 @@ Rectangle {
     anchors.margins: -root.gap
     radius: root.cornerRadius + root.gap
     color: "transparent"
-    border.width: 2
-    border.color: Theme.accent
+    borderWidth: 2
+    borderColor: Theme.accent
     visible: root.control.activeFocus && Theme.showsFocus
 }

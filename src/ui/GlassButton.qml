@@ -3,6 +3,7 @@
 
 import QtQuick
 import QtQuick.Templates as T
+import Keyvora
 
 // A quiet button on a translucent surface.
 T.Button {
@@ -42,13 +43,13 @@ T.Button {
             size: 14
         }
     }
-    background: Rectangle {
+    background: RoundedRectangle {
         radius: 10
         color: Theme.glass
-        border.width: Theme.hairlineWidth
-        border.color: Theme.hairline
+        borderWidth: Theme.hairlineWidth
+        borderColor: Theme.hairline
 
-        Rectangle {
+        RoundedRectangle {
             anchors.fill: parent
             radius: parent.radius
             color: Theme.hoverFill

@@ -4,11 +4,12 @@
 #include "ui/ImageProviders.h"
 
 #include <QPainter>
-#include <QRandomGenerator>
 #include <QSvgRenderer>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <random>
 #include <vector>
 
 namespace keyvora {
@@ -91,6 +92,49 @@ private:
     std::vector<float> m_values;
 };
 
+constexpr size_t levels = 256;
+
+/// How opaque a glow is in a distance from its middle. Falls like a cosine, so that no edge shows where it
+/// ends. The window waits for the two glows behind it, a hundred thousands of pixels each, so this is a
+/// table.
+class GlowFall
+{
+public:
+    /// Of this many parts of a level of opacity.
+    static constexpr quint32 one = 1U << 16U;
+
+    /// The opacity in the middle is from 0 to 1.
+    explicit GlowFall(float opacity)
+    {
+        for (size_t step = 0; step < m_parts.size(); ++step) {
+            const double distance = std::sqrt(static_cast<double>(step) / steps);
+            m_parts[step] =
+                static_cast<quint32>((levels - 1) * one * opacity * (1 + std::cos(M_PI * distance)) / 2);
+        }
+    }
+
+    /// The distance is given by its square; 1 is where the glow ends.
+    [[nodiscard]] quint32 at(float squaredDistance) const
+    {
+        return m_parts[static_cast<size_t>(std::min(squaredDistance, 1.0F) * steps)];
+    }
+
+private:
+    static constexpr int steps = 4096;
+
+    std::array<quint32, steps + 1> m_parts{};
+};
+
+/// A colour at each level of opacity.
+std::array<QRgb, levels> glowColors(const QColor &color)
+{
+    std::array<QRgb, levels> colors{};
+    for (size_t level = 0; level < levels; ++level)
+        colors[level] =
+            qPremultiply(qRgba(color.red(), color.green(), color.blue(), static_cast<int>(level)));
+    return colors;
+}
+
 } // namespace
 
 SymbolImageProvider::SymbolImageProvider()
@@ -123,17 +167,18 @@ QImage GlowImageProvider::requestImage(const QString &id, QSize *size, const QSi
     QImage image = transparentImage(sizeOr(requestedSize, defaultSize));
     const QColor color = colorFromParts(id);
     const QPointF center = QRectF(image.rect()).center();
-    const qreal radius = center.x();
-    QRandomGenerator noise(1);
+    const auto radius = static_cast<float>(center.x());
+    const GlowFall fall(color.alphaF());
+    const std::array<QRgb, levels> colors = glowColors(color);
+    std::minstd_rand noise;
     for (int y = 0; y < image.height(); ++y) {
         auto *line = reinterpret_cast<QRgb *>(image.scanLine(y));
+        const float down = (static_cast<float>(y) - static_cast<float>(center.y())) / radius;
         for (int x = 0; x < image.width(); ++x) {
-            const qreal distance = std::min(1.0, std::hypot(x - center.x(), y - center.y()) / radius);
-            // Falls like a cosine, so that no edge shows where it ends; the noise breaks up the steps between
-            // the few levels that so faint a colour has.
-            const qreal alpha = 255 * color.alphaF() * (1 + std::cos(M_PI * distance)) / 2;
-            const int level = static_cast<int>(alpha + noise.generateDouble());
-            line[x] = qPremultiply(qRgba(color.red(), color.green(), color.blue(), level));
+            const float across = (static_cast<float>(x) - radius) / radius;
+            // The noise breaks up the steps between the few levels that so faint a colour has.
+            const quint32 level = fall.at(across * across + down * down) + noise() % GlowFall::one;
+            line[x] = colors[level / GlowFall::one];
         }
     }
     *size = image.size();

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 import QtQuick
+import QtQuick.Templates as T
 import Keyvora
 
 // Brings in the shortcuts that other applications show in their menus.
@@ -9,26 +10,58 @@ GlassButton {
     id: root
 
     required property AppModel appModel
+    property bool isImporting: root.appModel.isImporting
+    property int current: root.appModel.importCurrent
+    property int total: root.appModel.importTotal
 
-    symbol: "download"
-    trailingSymbol: "keyboard_arrow_down"
-    text: Localized.czech ? "Import z menu" : "Import from Menu"
+    function countText(current: int): string {
+        return (Localized.czech ? "Importuji… (" : "Importing… (") + current + "/" + root.total + ")";
+    }
+
+    // An import does not make the button smaller, nor does its count move what stands beside the button.
+    implicitWidth: Math.max(implicitContentWidth, root.isImporting ? Math.max(idle.contentWidth, counted.contentWidth) : 0) + leftPadding + rightPadding
+    symbol: root.isImporting ? "hourglass_empty" : "download"
+    trailingSymbol: root.isImporting ? "" : "keyboard_arrow_down"
+    text: !root.isImporting ? idle.text : root.total > 0 ? root.countText(root.current) : Localized.czech ? "Importuji…" : "Importing…"
     Accessible.name: root.text
     onClicked: menu.opened ? menu.close() : menu.open()
 
+    component LabelMetrics: TextMetrics {
+        font.pointSize: Theme.points(11)
+        font.weight: Theme.mediumWeight
+    }
+
+    LabelMetrics {
+        id: idle
+
+        readonly property real contentWidth: Math.ceil(advanceWidth) + 46
+
+        text: Localized.czech ? "Import z menu" : "Import from Menu"
+    }
+    LabelMetrics {
+        id: counted
+
+        readonly property real contentWidth: Math.ceil(advanceWidth) + 24
+
+        text: root.total > 0 ? root.countText(root.total) : ""
+    }
     AppMenuPopup {
         id: menu
 
         y: root.height + 4
+        // The button itself closes it.
+        closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutsideParent
 
         AppMenuItem {
             text: Localized.czech ? "Import z aktivní aplikace „" + root.appModel.activeApp + "“"
                                   : "Import from Active App “" + root.appModel.activeApp + "”"
-            enabled: false
+            enabled: !root.isImporting
+            onTriggered: root.appModel.importFrontmostMenu()
         }
         AppMenuItem {
             text: Localized.czech ? "Import ze všech spuštěných aplikací" : "Import from All Running Apps"
-            enabled: false
+            enabled: !root.isImporting
+            onTriggered: root.appModel.importAllRunningApps()
         }
     }
 }

@@ -12,16 +12,16 @@ Item {
     property bool isStep: false
     property bool compact: false
 
-    implicitWidth: root.isStep ? step.width : Math.max(root.compact ? 20 : 28, label.implicitWidth + 2 * (root.compact ? 5 : 8))
+    implicitWidth: root.isStep ? step.width : Math.max(root.compact ? 20 : 28, Math.ceil(label.implicitWidth) + 2 * (root.compact ? 5 : 8))
     implicitHeight: root.compact ? 21 : 30
 
-    Rectangle {
+    RoundedRectangle {
         anchors.fill: parent
         visible: !root.isStep
         radius: root.compact ? 5 : 7
         color: Theme.capFill
-        border.width: Theme.hairlineWidth
-        border.color: Theme.capOutline
+        borderWidth: Theme.hairlineWidth
+        borderColor: Theme.capOutline
     }
     PlainLabel {
         id: label

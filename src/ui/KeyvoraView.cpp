@@ -3,12 +3,12 @@
 
 #include "ui/KeyvoraView.h"
 
+#include "system/UnusedMemory.h"
+
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QQmlEngine>
 #include <QQuickItem>
-
-#include <malloc.h>
 
 namespace keyvora {
 
@@ -25,13 +25,16 @@ KeyvoraView::KeyvoraView(QQmlEngine *engine, QObject *theme)
 
 void KeyvoraView::restoreFocus()
 {
-    // A popup that closes leaves the focus to nobody; the content still knows where it was.
+    // A popup that closes leaves the focus to nobody; the content still knows where it was. While another
+    // window has the keyboard, a dialog over this one above all, nobody has the focus here, and an open popup
+    // gets it back by itself.
     const QQuickItem *focused = activeFocusItem();
-    if ((focused == nullptr || focused == contentItem()) && rootObject() != nullptr)
+    const bool isNobodys = focused == nullptr || focused == contentItem();
+    if (QGuiApplication::focusWindow() == this && isNobodys && rootObject() != nullptr)
         rootObject()->forceActiveFocus(Qt::PopupFocusReason);
 }
 
-void KeyvoraView::bringToFront(const QString &activationToken)
+void KeyvoraView::bringToFront(const QString &activationToken, const Activation &activate)
 {
     // Where the toolkit looks for it on Wayland when a window asks to come to the front; it takes it out
     // again.
@@ -41,7 +44,8 @@ void KeyvoraView::bringToFront(const QString &activationToken)
         setWindowStates(windowStates() & ~Qt::WindowMinimized);
     show();
     raise();
-    requestActivate();
+    if (!activate(*this, activationToken))
+        requestActivate();
 }
 
 void KeyvoraView::hideEvent(QHideEvent *event)
@@ -49,7 +53,7 @@ void KeyvoraView::hideEvent(QHideEvent *event)
     QQuickView::hideEvent(event);
     releaseResources();
     engine()->collectGarbage();
-    malloc_trim(0);
+    returnUnusedMemory();
 }
 
 bool KeyvoraView::event(QEvent *event)

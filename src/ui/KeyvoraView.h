@@ -5,6 +5,8 @@
 
 #include <QQuickView>
 
+#include <functional>
+
 namespace keyvora {
 
 /// A window of ours with QML in it. Tells the theme whether the person is using the keyboard, so that focus
@@ -17,8 +19,11 @@ public:
     /// The theme is the QML singleton, which outlives the view.
     KeyvoraView(QQmlEngine *engine, QObject *theme);
 
-    /// Shows the window above the others and asks for the focus.
-    void bringToFront(const QString &activationToken);
+    using Activation = std::function<bool(const QWindow &window, const QString &activationToken)>;
+
+    /// Shows the window above the others and asks for the focus: by `activate`, or itself where that is
+    /// false.
+    void bringToFront(const QString &activationToken, const Activation &activate);
 
 protected:
     bool event(QEvent *event) override;

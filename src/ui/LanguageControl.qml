@@ -33,11 +33,11 @@ FocusScope {
             font.weight: Theme.mediumWeight
             horizontalAlignment: Text.AlignHCenter
         }
-        background: Rectangle {
+        background: RoundedRectangle {
             radius: 9
             color: choice.checked ? Theme.accent : Theme.capFill
-            border.width: choice.checked ? 0 : Theme.hairlineWidth
-            border.color: Theme.hairline
+            borderWidth: choice.checked ? 0 : Theme.hairlineWidth
+            borderColor: Theme.hairline
 
             FocusRing {
                 control: choice

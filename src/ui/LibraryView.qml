@@ -10,6 +10,15 @@ FocusScope {
 
     required property AppModel appModel
 
+    // Brings a shortcut into view and moves the keyboard to it, unless something lies over the cards.
+    function reveal(shortcutId: string, takesFocus: bool): void {
+        grid.reveal(shortcutId);
+        if (!takesFocus)
+            return;
+        Theme.showsFocus = true;
+        root.focusCards();
+    }
+
     // Moves the keyboard into the cards.
     function focusCards(): void {
         if (grid.count > 0)
@@ -21,29 +30,13 @@ FocusScope {
         x: 22
         appModel: root.appModel
     }
-    Row {
+    MessageLine {
         id: message
-
         anchors.top: filterBar.bottom
         anchors.topMargin: 12
         x: 22
-        spacing: 8
-        visible: root.appModel.importMessage.length > 0
-        height: visible ? 20 : 0
-        Accessible.role: Accessible.StaticText
-        Accessible.name: root.appModel.importMessage
-
-        Symbol {
-            anchors.verticalCenter: parent.verticalCenter
-            name: "check_circle-fill"
-            color: Theme.right
-        }
-        PlainLabel {
-            width: Math.min(implicitWidth, root.width - 68)
-            height: parent.height
-            text: root.appModel.importMessage
-            size: 12
-        }
+        width: parent.width - 44
+        text: root.appModel.importMessage
     }
     ShortcutGrid {
         id: grid

@@ -31,6 +31,14 @@ QString Localized::keyCapLabel(const QString &token, [[maybe_unused]] bool czech
     return keyvora::keyCapLabel(token);
 }
 
+QString Localized::shownKeys(const QStringList &tokens, [[maybe_unused]] bool czech) const
+{
+    QStringList labels;
+    for (const QString &token : tokens)
+        labels.append(keyvora::keyCapLabel(token));
+    return labels.join(u' ');
+}
+
 QString Localized::spokenKeys(const QStringList &tokens, [[maybe_unused]] bool czech) const
 {
     QStringList words;
@@ -42,6 +50,12 @@ QString Localized::spokenKeys(const QStringList &tokens, [[maybe_unused]] bool c
 bool Localized::isStepSeparator(const QStringList &tokens, int index) const
 {
     return keyvora::isStepSeparator(tokens, index);
+}
+
+QString Localized::categoryName(int category, [[maybe_unused]] bool czech) const
+{
+    const auto position = static_cast<size_t>(category);
+    return position < allCategories.size() ? displayName(allCategories[position]) : QString();
 }
 
 QString Localized::categorySymbol(int category) const

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "model/Shortcut.h"
+
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
 
@@ -13,6 +15,7 @@ class Localized : public QObject
 {
     Q_OBJECT
     Q_PROPERTY(bool czech READ isCzech WRITE setCzech NOTIFY languageChanged)
+    Q_PROPERTY(int categoryCount READ categoryCount CONSTANT)
     QML_ELEMENT
     QML_SINGLETON
 
@@ -25,12 +28,18 @@ public:
     /// The label of a key cap. `czech` is the property of the same name, passed so that a binding follows it.
     [[nodiscard]] Q_INVOKABLE QString keyCapLabel(const QString &token, bool czech) const;
 
+    /// A combination as its caps show it: "⇧ ⌘ S". `czech` as for `keyCapLabel`.
+    [[nodiscard]] Q_INVOKABLE QString shownKeys(const QStringList &tokens, bool czech) const;
+
     /// A combination as it is spoken: "Command Shift S". `czech` as for `keyCapLabel`.
     [[nodiscard]] Q_INVOKABLE QString spokenKeys(const QStringList &tokens, bool czech) const;
 
     /// Whether a token leads to the next step rather than standing for a key.
     [[nodiscard]] Q_INVOKABLE bool isStepSeparator(const QStringList &tokens, int index) const;
 
+    [[nodiscard]] static int categoryCount() { return static_cast<int>(allCategories.size()); }
+    /// The name of a category, given by its position in the order of display. `czech` as for `keyCapLabel`.
+    [[nodiscard]] Q_INVOKABLE QString categoryName(int category, bool czech) const;
     /// The symbol of a category, given by its position in the order of display.
     [[nodiscard]] Q_INVOKABLE QString categorySymbol(int category) const;
 

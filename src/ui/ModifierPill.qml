@@ -30,13 +30,13 @@ T.CheckBox {
         font.weight: Theme.mediumWeight
         horizontalAlignment: Text.AlignHCenter
     }
-    background: Rectangle {
+    background: RoundedRectangle {
         radius: 9
         color: root.checked ? Theme.accent : Theme.glass
-        border.width: root.checked ? 0 : Theme.hairlineWidth
-        border.color: Theme.hairline
+        borderWidth: root.checked ? 0 : Theme.hairlineWidth
+        borderColor: Theme.hairline
 
-        Rectangle {
+        RoundedRectangle {
             anchors.fill: parent
             radius: parent.radius
             color: Theme.hoverFill

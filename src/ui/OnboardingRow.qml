@@ -29,7 +29,7 @@ RowLayout {
     }
     ColumnLayout {
         Layout.fillWidth: true
-        spacing: 1
+        spacing: 2
 
         PlainLabel {
             Layout.fillWidth: true

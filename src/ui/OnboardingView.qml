@@ -10,9 +10,9 @@ AppSheet {
     id: root
 
     title: Localized.czech ? "Vítej v appce Keyvora" : "Welcome to Keyvora"
-    width: 460
+    implicitWidth: 460
 
-    contentItem: ColumnLayout {
+    body: ColumnLayout {
         spacing: 14
 
         BrandTile {

@@ -7,10 +7,22 @@
 
 namespace keyvora {
 
-PanelController::PanelController(std::function<void()> showMainWindow, std::function<void()> quit)
-    : m_showMainWindow(std::move(showMainWindow))
+PanelController::PanelController(std::function<void()> toggleOverlay, std::function<void()> showMainWindow,
+                                 std::function<void()> quit)
+    : m_toggleOverlay(std::move(toggleOverlay))
+    , m_showMainWindow(std::move(showMainWindow))
     , m_quit(std::move(quit))
 {
+}
+
+void PanelController::present()
+{
+    emit presented();
+}
+
+void PanelController::toggleOverlay()
+{
+    m_toggleOverlay();
 }
 
 void PanelController::openLibrary()

@@ -18,8 +18,13 @@ class PanelController : public QObject
     QML_UNCREATABLE("The user interface makes it; it comes in as a property.")
 
 public:
-    PanelController(std::function<void()> showMainWindow, std::function<void()> quit);
+    PanelController(std::function<void()> toggleOverlay, std::function<void()> showMainWindow,
+                    std::function<void()> quit);
 
+    /// The panel opens: it starts afresh.
+    void present();
+    /// Shows the overlay, or hides it. The panel stays.
+    Q_INVOKABLE void toggleOverlay();
     /// Closes the panel, then shows the main window.
     Q_INVOKABLE void openLibrary();
     /// Ends the program.
@@ -28,9 +33,11 @@ public:
     Q_INVOKABLE void dismiss();
 
 signals:
+    void presented();
     void dismissed();
 
 private:
+    std::function<void()> m_toggleOverlay;
     std::function<void()> m_showMainWindow;
     std::function<void()> m_quit;
 };

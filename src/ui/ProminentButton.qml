@@ -3,14 +3,16 @@
 
 import QtQuick
 import QtQuick.Templates as T
+import Keyvora
 
 // The button of the action that most people want.
 T.Button {
     id: root
 
     property string symbol: ""
+    property int weight: Theme.strongWeight
 
-    implicitWidth: implicitContentWidth + leftPadding + rightPadding
+    implicitWidth: Math.ceil(implicitContentWidth + leftPadding + rightPadding)
     implicitHeight: 32
     leftPadding: 14
     rightPadding: 14
@@ -38,11 +40,11 @@ T.Button {
                 text: root.text
                 size: 12
                 color: Theme.accentInk
-                font.weight: Theme.strongWeight
+                font.weight: root.weight
             }
         }
     }
-    background: Rectangle {
+    background: RoundedRectangle {
         radius: 8
         color: root.hovered ? Qt.lighter(Theme.accent, 1.06) : Theme.accent
 

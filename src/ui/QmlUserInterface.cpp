@@ -3,17 +3,24 @@
 
 #include "ui/QmlUserInterface.h"
 
+#include "dialogs/BackupService.h"
+#include "model/AppModel.h"
 #include "model/DefaultsKeys.h"
 #include "model/FirstTime.h"
 #include "platform/Appearance.h"
+#include "platform/Compositor.h"
 #include "system/AppMenu.h"
 #include "system/ApplicationIcon.h"
+#include "system/UnusedMemory.h"
+#include "ui/CornerWindow.h"
 #include "ui/ImageProviders.h"
 #include "ui/KeyvoraView.h"
 #include "ui/PanelPlacement.h"
+#include "ui/PanelWindow.h"
 #include "ui/WindowFrame.h"
+#include "update/UpdateChecker.h"
 
-#include <QCursor>
+#include <QAccessible>
 #include <QGuiApplication>
 #include <QQmlComponent>
 #include <QQuickItem>
@@ -27,6 +34,7 @@ namespace {
 
 constexpr QSize initialWindowSize(960, 640);
 constexpr QSize minimumWindowSize(840, 560);
+constexpr int noticeGap = 12; ///< between the overlay and the notice below it
 
 QUrl component(const QString &name)
 {
@@ -43,12 +51,47 @@ QObject *themeOf(QQmlEngine &engine)
     return holder->property("theme").value<QObject *>();
 }
 
+/// Below which the main window is not made, but to fit on a screen.
+QSize leastSizeOf(const QQuickItem &content)
+{
+    const QSize least(content.property("minimumWidth").toInt(), content.property("minimumHeight").toInt());
+    return minimumWindowSize.expandedTo(least);
+}
+
+Settings::BackupCommands backupCommands(AppModel &model)
+{
+    const BackupService service;
+    return {
+        .save = [&model,
+                 service](QWindow *window,
+                          BackupService::Done done) { service.exportBackup(model, window, std::move(done)); },
+        .load = [&model,
+                 service](QWindow *window,
+                          BackupService::Done done) { service.importFile(model, window, std::move(done)); },
+    };
+}
+
+/// Screen readers hear of an item that comes into being, but not of one whose window is shown again.
+void announceAgain(const QQuickView &view)
+{
+    QAccessibleEvent shown(view.rootObject(), QAccessible::ObjectShow);
+    QAccessible::updateAccessibility(&shown);
+}
+
 } // namespace
 
-QmlUserInterface::QmlUserInterface(const Context &context)
+QmlUserInterface::QmlUserInterface(const Context &context, std::chrono::milliseconds mainWindowKept)
     : m_context(context)
     , m_sections(context.model)
-    , m_panelController(context.showMainWindow, context.quit)
+    , m_learning(context.model, context.defaults)
+    , m_cheatSheets(context.model, PrintService(documentClock(context.environment)))
+    , m_settings(context.model, context.accessibility, backupCommands(context.model))
+    , m_customShortcuts(context.model)
+    , m_keyReader(context.keyboardLayout)
+    , m_panelController(context.toggleOverlay, context.showMainWindow, context.quit)
+    , m_overlayController(context.toggleOverlay, context.showMainWindow)
+    , m_noticeController(context.model, context.showMainWindow)
+    , m_trustController(context.grantTrust)
 {
     m_engine.addImportPath(u"qrc:/qt/qml"_s);
     m_engine.addImageProvider(u"symbol"_s, new SymbolImageProvider);
@@ -58,6 +101,9 @@ QmlUserInterface::QmlUserInterface(const Context &context)
     followAppearance();
     QObject::connect(&m_context.appearance, &Appearance::preferencesChanged, m_theme,
                      [this] { followAppearance(); });
+    m_discardTimer.setSingleShot(true);
+    m_discardTimer.setInterval(mainWindowKept);
+    QObject::connect(&m_discardTimer, &QTimer::timeout, m_theme, [this] { discardMainWindow(); });
 }
 
 QmlUserInterface::~QmlUserInterface() = default;
@@ -76,8 +122,8 @@ void QmlUserInterface::showMainWindow(const QString &activationToken)
         makeMainWindow();
     // Window managers place a window that comes back by where its frame was asked to be.
     if (!m_mainWindow->isVisible())
-        m_mainWindowFrame->restore(initialWindowSize);
-    m_mainWindow->bringToFront(activationToken);
+        m_mainWindowFrame->restore(initialWindowSize, leastSizeOf(*m_mainWindow->rootObject()));
+    m_mainWindow->bringToFront(activationToken, m_context.activateWindow);
 }
 
 void QmlUserInterface::makeMainWindow()
@@ -88,46 +134,153 @@ void QmlUserInterface::makeMainWindow()
     m_mainWindow->setInitialProperties({
         {u"appModel"_s, QVariant::fromValue(&m_context.model)},
         {u"sections"_s, QVariant::fromValue(&m_sections)},
+        {u"learning"_s, QVariant::fromValue(&m_learning)},
+        {u"sheets"_s, QVariant::fromValue(&m_cheatSheets)},
+        {u"settings"_s, QVariant::fromValue(&m_settings)},
+        {u"customs"_s, QVariant::fromValue(&m_customShortcuts)},
         {u"appMenu"_s, QVariant::fromValue(&m_context.menu)},
+        {u"trust"_s, QVariant::fromValue(&m_trustController)},
+        {u"updates"_s, QVariant::fromValue(&m_context.updates)},
+        {u"keyReader"_s, QVariant::fromValue(&m_keyReader)},
         {u"isFirstTime"_s, isFirstTime(m_context.defaults, DefaultsKeys::hasSeenOnboarding)},
     });
     m_mainWindow->setSource(component(u"ContentView"_s));
-    QQuickItem *content = m_mainWindow->rootObject();
-    const QSize contentMinimum(content->property("minimumWidth").toInt(),
-                               content->property("minimumHeight").toInt());
-    m_mainWindow->setMinimumSize(minimumWindowSize.expandedTo(contentMinimum));
     m_mainWindowFrame = std::make_unique<WindowFrame>(*m_mainWindow, m_context.windowFrames, "MainWindow"_L1);
+    QObject::connect(m_mainWindow.get(), &QWindow::visibleChanged, &m_discardTimer, [this](bool isVisible) {
+        if (isVisible)
+            m_discardTimer.stop();
+        else
+            m_discardTimer.start();
+    });
 }
 
-void QmlUserInterface::togglePanel(QPoint position)
+void QmlUserInterface::discardMainWindow()
+{
+    // What is begun in it waits for as long as it takes.
+    if (m_mainWindow->rootObject()->property("isInterrupted").toBool())
+        return;
+    m_mainWindowFrame.reset();
+    m_mainWindow.reset();
+    m_engine.trimComponentCache();
+    m_engine.collectGarbage();
+    returnUnusedMemory();
+}
+
+void QmlUserInterface::togglePanel(QPoint position, const QString &activationToken)
 {
     if (!m_panel)
         makePanel();
-    if (m_panel->isVisible()) {
-        m_panel->hide();
-        return;
-    }
-    const QPoint anchor = position.isNull() ? QCursor::pos() : position;
-    const QScreen *screen = QGuiApplication::screenAt(anchor);
-    if (screen == nullptr)
-        screen = QGuiApplication::primaryScreen();
-    m_panel->setPosition(panelPosition(m_panel->size(), anchor, screen->availableGeometry()));
-    m_panel->bringToFront({});
+    m_panel->toggle(position, activationToken, m_context.activateWindow);
 }
 
 void QmlUserInterface::makePanel()
 {
-    m_panel = std::make_unique<KeyvoraView>(&m_engine, m_theme);
+    m_panel = std::make_unique<PanelWindow>(&m_engine, m_theme, m_context.compositor);
     m_panel->setTitle(u"Keyvora"_s);
-    m_panel->setFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
-    m_panel->setResizeMode(QQuickView::SizeViewToRootObject);
-    m_panel->setInitialProperties({{u"controller"_s, QVariant::fromValue(&m_panelController)}});
-    m_panel->setSource(component(u"MenuBarView"_s));
-    QObject::connect(&m_panelController, &PanelController::dismissed, m_panel.get(), &QWindow::hide);
-    QObject::connect(m_panel.get(), &QWindow::activeChanged, m_panel.get(), [this] {
-        if (!m_panel->isActive())
-            m_panel->hide();
+    m_panel->setInitialProperties({
+        {u"appModel"_s, QVariant::fromValue(&m_context.model)},
+        {u"controller"_s, QVariant::fromValue(&m_panelController)},
     });
+    m_panel->setSource(component(u"MenuBarView"_s));
+    QObject::connect(m_panel.get(), &PanelWindow::opening, &m_panelController, &PanelController::present);
+    QObject::connect(&m_panelController, &PanelController::dismissed, m_panel.get(), &QWindow::hide);
+    keepOverlayBelowPanel();
+}
+
+void QmlUserInterface::showOverlay()
+{
+    if (!m_overlay)
+        makeOverlay();
+    m_overlay->present();
+}
+
+void QmlUserInterface::hideOverlay()
+{
+    if (m_overlay)
+        m_overlay->hide();
+}
+
+bool QmlUserInterface::isOverlayVisible() const
+{
+    return m_overlay && m_overlay->isVisible();
+}
+
+void QmlUserInterface::makeOverlay()
+{
+    m_overlay = std::make_unique<CornerWindow>(&m_engine, m_theme, m_context.compositor);
+    m_overlay->setTitle(u"Keyvora"_s);
+    m_overlay->setInitialProperties({
+        {u"appModel"_s, QVariant::fromValue(&m_context.model)},
+        {u"controller"_s, QVariant::fromValue(&m_overlayController)},
+    });
+    m_overlay->setSource(component(u"ContextOverlayView"_s));
+    keepOverlayBelowPanel();
+    keepNoticeBelowOverlay();
+}
+
+void QmlUserInterface::keepOverlayBelowPanel()
+{
+    if (!m_panel || !m_overlay)
+        return;
+    // The panel's button also hides the overlay, which no window manager can put below the panel.
+    const auto place = [this] {
+        const QRect available = QGuiApplication::primaryScreen()->availableGeometry();
+        m_overlay->setOffset(
+            m_panel->isVisible() ? cornerOffsetBelow(m_overlay->size(), m_panel->geometry(), available) : 0);
+    };
+    // The overlay goes before the panel does.
+    QObject::connect(m_panel.get(), &QWindow::visibleChanged, m_overlay.get(), place);
+    QObject::connect(m_panel.get(), &QWindow::xChanged, m_overlay.get(), place);
+    QObject::connect(m_panel.get(), &QWindow::yChanged, m_overlay.get(), place);
+    QObject::connect(m_panel.get(), &QWindow::heightChanged, m_overlay.get(), place);
+    QObject::connect(m_overlay.get(), &QWindow::heightChanged, m_overlay.get(), place);
+    place();
+}
+
+void QmlUserInterface::showSuggestion()
+{
+    if (m_context.model.suggestionId().isEmpty())
+        return;
+    if (!m_notice)
+        makeNotice();
+    else
+        announceAgain(*m_notice);
+    m_notice->present();
+    m_noticeController.present();
+}
+
+void QmlUserInterface::makeNotice()
+{
+    m_notice = std::make_unique<CornerWindow>(&m_engine, m_theme, m_context.compositor);
+    m_notice->setTitle(u"Keyvora"_s);
+    m_notice->setInitialProperties({
+        {u"appModel"_s, QVariant::fromValue(&m_context.model)},
+        {u"controller"_s, QVariant::fromValue(&m_noticeController)},
+    });
+    m_notice->setSource(component(u"SuggestionNotice"_s));
+    QObject::connect(&m_noticeController, &NoticeController::dismissed, m_notice.get(), &QWindow::hide);
+    keepNoticeBelowOverlay();
+}
+
+void QmlUserInterface::keepNoticeBelowOverlay()
+{
+    if (!m_overlay || !m_notice)
+        return;
+    const auto place = [this] {
+        m_notice->setOffset(m_overlay->isVisible() ? m_overlay->offset() + m_overlay->height() + noticeGap
+                                                   : 0);
+    };
+    // The notice is the first to go.
+    QObject::connect(m_overlay.get(), &QWindow::visibleChanged, m_notice.get(), place);
+    QObject::connect(m_overlay.get(), &QWindow::heightChanged, m_notice.get(), place);
+    QObject::connect(m_overlay.get(), &QWindow::yChanged, m_notice.get(), place);
+    place();
+}
+
+void QmlUserInterface::askForTrust()
+{
+    m_context.showMainWindow();
+    m_trustController.ask();
 }
 
 } // namespace keyvora

@@ -17,7 +17,7 @@ T.TextField {
     rightPadding: 30
     text: root.appModel.search
     placeholderText: Localized.czech ? "Hledat" : "Search"
-    placeholderTextColor: Theme.tertiaryInk
+    placeholderTextColor: Theme.placeholderInk
     color: Theme.ink
     selectionColor: Theme.accent
     selectedTextColor: Theme.accentInk
@@ -42,11 +42,11 @@ T.TextField {
         }
     }
 
-    background: Rectangle {
+    background: RoundedRectangle {
         radius: 10
         color: Theme.glass
-        border.width: root.activeFocus ? 2 : Theme.hairlineWidth
-        border.color: root.activeFocus ? Theme.accent : Theme.hairline
+        borderWidth: root.activeFocus ? Theme.strongLineWidth : Theme.hairlineWidth
+        borderColor: root.activeFocus ? Theme.accent : Theme.hairline
 
         Symbol {
             x: 11
@@ -62,7 +62,7 @@ T.TextField {
             visible: root.text.length === 0 && root.preeditText.length === 0
             text: root.placeholderText
             size: 12.5
-            color: Theme.tertiaryInk
+            color: Theme.placeholderInk
         }
     }
 

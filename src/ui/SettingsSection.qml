@@ -2,9 +2,10 @@
 // SPDX-License-Identifier: MIT
 
 import QtQuick
+import Keyvora
 
 // A titled group of settings.
-Rectangle {
+RoundedRectangle {
     id: root
 
     property string title: ""
@@ -13,8 +14,8 @@ Rectangle {
     implicitHeight: column.implicitHeight + 26
     radius: 12
     color: Theme.card
-    border.width: Theme.hairlineWidth
-    border.color: Theme.hairline
+    borderWidth: Theme.hairlineWidth
+    borderColor: Theme.hairline
 
     Column {
         id: column

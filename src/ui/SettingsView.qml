@@ -2,34 +2,39 @@
 // SPDX-License-Identifier: MIT
 
 import QtQuick
-import QtQuick.Layouts
 import Keyvora
 
 // The settings sheet.
 AppSheet {
     id: root
 
+    required property Settings settings
+    required property CustomShortcuts customs
+
     title: Localized.czech ? "Nastavení" : "Settings"
-    width: 520
-    padding: 18
+    implicitWidth: 520
+    padding: 0
+    closePolicy: AppSheet.CloseOnEscape | AppSheet.CloseOnPressOutside
+    Component.onCompleted: root.settings.begin()
 
-    contentItem: ColumnLayout {
-        spacing: 12
+    contentItem: SettingsPage {
+        focus: true
+        title: root.title
+        settings: root.settings
+        customs: root.customs
+        onClosed: root.close()
+    }
 
-        PlainLabel {
-            text: root.title
-            size: 17
-            font.weight: Theme.strongWeight
-            Accessible.role: Accessible.Heading
-            Accessible.name: text
+    Connections {
+        target: root.settings
+
+        function onFailed(description: string): void {
+            alert.description = Qt.binding(() => description.length > 0 ? description : Localized.czech ? "Neznámá chyba" : "Unknown error");
+            alert.open();
         }
-        SettingsSection {
-            Layout.fillWidth: true
-            title: Localized.czech ? "Jazyk" : "Language"
-
-            LanguageControl {
-                focus: true
-            }
-        }
+    }
+    AlertSheet {
+        id: alert
+        title: Localized.czech ? "Nastavení se nepodařilo změnit" : "Couldn't change the setting"
     }
 }

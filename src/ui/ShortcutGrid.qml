@@ -11,11 +11,29 @@ GridView {
 
     required property AppModel appModel
 
+    property int revealedRow: -1
+
     readonly property int spacing: 14
     readonly property int padding: 22
     readonly property int minimumColumnWidth: 250
     readonly property int cardHeight: 145
     readonly property int columns: Math.max(1, Math.floor((root.width - 2 * root.padding + root.spacing) / (root.minimumColumnWidth + root.spacing)))
+
+    // Makes the card of a shortcut the current one and brings it into view, where it stays until the person scrolls or
+    // moves on: the window may just be getting its size.
+    function reveal(shortcutId: string): void {
+        root.forceLayout();
+        root.revealedRow = root.model.rowOf(shortcutId);
+        if (root.revealedRow < 0)
+            return;
+        root.currentIndex = root.revealedRow;
+        root.showRevealed();
+    }
+
+    function showRevealed(): void {
+        if (root.revealedRow >= 0 && root.revealedRow === root.currentIndex)
+            root.positionViewAtIndex(root.revealedRow, GridView.Center);
+    }
 
     // The spacing right of the last column and below the last row is part of their cells.
     leftMargin: root.padding
@@ -33,6 +51,11 @@ GridView {
 
     Accessible.role: Accessible.List
     Accessible.name: Localized.czech ? "Zkratky" : "Shortcuts"
+
+    onMovementStarted: root.revealedRow = -1
+    onCountChanged: root.revealedRow = -1
+    onHeightChanged: root.showRevealed()
+    onColumnsChanged: root.showRevealed()
 
     Keys.onPressed: event => {
         const page = Math.max(1, Math.floor(root.height / root.cellHeight)) * root.columns;

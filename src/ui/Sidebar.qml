@@ -19,7 +19,7 @@ FocusScope {
         anchors.fill: parent
         color: Theme.sidebarGlass
     }
-    Rectangle {
+    RoundedRectangle {
         anchors.right: parent.right
         width: Theme.hairlineWidth
         height: parent.height

@@ -149,11 +149,25 @@ QString SidebarModel::pageTitle() const
     return nameOf(section, section.pageTitle);
 }
 
-bool SidebarModel::showsLibrary() const
+SidebarModel::Page SidebarModel::page() const
 {
-    using Kind = SidebarSelection::Kind;
-    const Kind kind = m_model.selection().kind;
-    return kind == Kind::all || kind == Kind::favorites || kind == Kind::category;
+    switch (m_model.selection().kind) {
+    case SidebarSelection::Kind::all:
+    case SidebarSelection::Kind::favorites:
+    case SidebarSelection::Kind::category:
+        return Page::Library;
+    case SidebarSelection::Kind::keyboard:
+        return Page::Keyboard;
+    case SidebarSelection::Kind::sticker:
+        return Page::Sticker;
+    case SidebarSelection::Kind::firstAid:
+        return Page::FirstAid;
+    case SidebarSelection::Kind::daily:
+        return Page::Daily;
+    case SidebarSelection::Kind::practice:
+        return Page::Practice;
+    }
+    Q_UNREACHABLE();
 }
 
 void SidebarModel::select(int row)

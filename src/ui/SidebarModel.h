@@ -16,11 +16,22 @@ class SidebarModel : public QAbstractListModel
     Q_OBJECT
     Q_PROPERTY(int currentRow READ currentRow NOTIFY currentRowChanged)
     Q_PROPERTY(QString pageTitle READ pageTitle NOTIFY pageTitleChanged)
-    Q_PROPERTY(bool showsLibrary READ showsLibrary NOTIFY currentRowChanged)
+    Q_PROPERTY(Page page READ page NOTIFY currentRowChanged)
     QML_ELEMENT
     QML_UNCREATABLE("The user interface makes it; it comes in as a property.")
 
 public:
+    /// What the window shows for a section.
+    enum class Page : quint8 {
+        Library, ///< its shortcuts, as they pass the filters
+        Keyboard,
+        Sticker,
+        FirstAid,
+        Daily,
+        Practice,
+    };
+    Q_ENUM(Page)
+
     enum Role {
         TitleRole = Qt::UserRole,
         SymbolRole,  ///< name of the symbol
@@ -37,8 +48,8 @@ public:
     [[nodiscard]] int currentRow() const;
     /// The title over the selected section's page.
     [[nodiscard]] QString pageTitle() const;
-    /// Whether the selected section is a part of the library rather than a screen of its own.
-    [[nodiscard]] bool showsLibrary() const;
+    /// What the window shows for the selected section.
+    [[nodiscard]] Page page() const;
 
     /// Selects the section of a row; rows that do not exist are ignored.
     Q_INVOKABLE void select(int row);

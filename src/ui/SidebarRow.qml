@@ -3,6 +3,7 @@
 
 import QtQuick
 import QtQuick.Templates as T
+import Keyvora
 
 // One row of the sidebar.
 T.ItemDelegate {
@@ -41,8 +42,11 @@ T.ItemDelegate {
             font.weight: root.selected ? Theme.strongWeight : Theme.regularWeight
         }
     }
-    background: Rectangle {
+    background: RoundedRectangle {
         radius: 8
+        borderWidth: Theme.highContrast && root.selected ? Theme.hairlineWidth : 0
+        // Not that of the ring around what has the keyboard.
+        borderColor: Theme.hairline
         color: root.selected ? Theme.softAccent : root.hovered ? Theme.hoverFill : "transparent"
 
         FocusRing {

@@ -28,6 +28,9 @@ FocusScope {
         height: parent.height
         text: root.sections.pageTitle
         size: 24
+        // Where the window is narrow, the longest titles do with less.
+        fontSizeMode: Text.HorizontalFit
+        minimumPointSize: Theme.points(18)
         font.weight: 700
         font.letterSpacing: -0.4
         Accessible.role: Accessible.Heading
@@ -46,13 +49,16 @@ FocusScope {
             Accessible.name: root.appModel.activeApp
             Accessible.description: Localized.czech ? "Aktivní aplikace" : "Active app"
 
+            // What the title leaves.
+            readonly property real room: root.width - pageTitle.implicitWidth - pageTitle.anchors.rightMargin - importMenu.width - search.width - 2 * controls.spacing - 23
+
             Symbol {
                 anchors.verticalCenter: parent.verticalCenter
                 name: "web_asset"
                 color: Theme.secondaryInk
             }
             PlainLabel {
-                width: Math.min(implicitWidth, 150)
+                width: Math.min(implicitWidth, 150, Math.max(64, activeApp.room))
                 height: parent.height
                 text: root.appModel.activeApp
                 size: 12.5
@@ -60,6 +66,7 @@ FocusScope {
             }
         }
         ImportMenu {
+            id: importMenu
             appModel: root.appModel
         }
         SearchField {

@@ -9,7 +9,7 @@
 extern "C" Q_DECL_EXPORT keyvora::UserInterface *
 keyvoraCreateUserInterface(const keyvora::UserInterface::Context &context)
 {
-    if (!qEnvironmentVariableIsSet("QT_QUICK_BACKEND"))
-        QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+    // Whatever the environment says: some of the items paint with it alone.
+    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     return new keyvora::QmlUserInterface(context);
 }

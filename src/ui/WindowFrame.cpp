@@ -6,6 +6,7 @@
 #include "model/Defaults.h"
 
 #include <QGuiApplication>
+#include <QMargins>
 #include <QScreen>
 #include <QWindow>
 
@@ -40,13 +41,24 @@ std::optional<QRect> parsedFrame(const QString &text)
     return QRect(numbers[0], numbers[1], numbers[2], numbers[3]);
 }
 
-bool canBeGrasped(const QRect &frame)
+/// The screen on which a window with that frame can be taken hold of.
+const QScreen *screenToGraspOn(const QRect &frame)
 {
     const QRect titleBar(frame.topLeft(), QSize(frame.width(), graspable.height()));
-    return std::ranges::any_of(QGuiApplication::screens(), [&](const QScreen *screen) {
+    const QList<QScreen *> screens = QGuiApplication::screens();
+    const auto found = std::ranges::find_if(screens, [&](const QScreen *screen) {
         const QRect shown = screen->availableGeometry() & titleBar;
         return shown.width() >= graspable.width() && shown.height() >= graspable.height() / 2;
     });
+    return found == screens.end() ? nullptr : *found;
+}
+
+/// What window managers put around a window, which they do not tell before they show it.
+QMargins decorationOf(const QWindow &window)
+{
+    constexpr QMargins usual(4, 36, 4, 4);
+    const QMargins known = window.frameMargins();
+    return known.isNull() ? usual : known;
 }
 
 } // namespace
@@ -78,18 +90,35 @@ WindowFrame::~WindowFrame()
     savePending();
 }
 
-void WindowFrame::restore(QSize initialSize)
+void WindowFrame::restore(QSize initialSize, QSize minimumSize)
 {
     const auto stored = parsedFrame(m_store.text(m_name).value_or(QString()));
-    const QSize minimum = m_window.minimumSize();
-    QRect frame(QPoint(), initialSize.expandedTo(minimum));
-    if (stored && canBeGrasped(*stored))
-        frame = QRect(stored->topLeft(), stored->size().expandedTo(minimum));
-    else
-        frame.moveCenter(QGuiApplication::primaryScreen()->availableGeometry().center());
+    const QScreen *storedScreen = stored ? screenToGraspOn(*stored) : nullptr;
+    const QScreen *screen = storedScreen != nullptr ? storedScreen : QGuiApplication::primaryScreen();
+    const QRect available = screen->availableGeometry();
+    const QMargins decoration = decorationOf(m_window);
+    const QSize most = available.size().shrunkBy(decoration);
+
+    const QSize minimum = minimumSize.boundedTo(most);
+    const QSize wanted = (stored ? stored->size() : initialSize).expandedTo(minimum);
+    const QSize size = wanted.boundedTo(most);
+    QRect middle(QPoint(), size);
+    middle.moveCenter(available.center());
+    const QSize whole = size.grownBy(decoration);
+    QPoint position(std::min(middle.x(), available.x() + available.width() - whole.width()),
+                    std::min(middle.y(), available.y() + available.height() - whole.height()));
+    if (storedScreen != nullptr) {
+        position = stored->topLeft();
+        // A window that was cut is shown as a whole; others may be beyond an edge, where they were put.
+        if (size.width() < wanted.width())
+            position.setX(available.left());
+        if (size.height() < wanted.height())
+            position.setY(available.top());
+    }
+    m_window.setMinimumSize(minimum);
     // In this order: resizing takes the position for that of the content.
-    m_window.resize(frame.size());
-    m_window.setFramePosition(frame.topLeft());
+    m_window.resize(size);
+    m_window.setFramePosition(position);
 }
 
 void WindowFrame::savePending()

@@ -25,9 +25,11 @@ public:
     /// Writes what has not been written yet. The window must still be there.
     ~WindowFrame() override;
 
-    /// Puts the window where it was or, when nothing usable is stored, in the middle of the main screen with
-    /// the given size. Never smaller than the window's minimum, never where no screen shows its title.
-    void restore(QSize initialSize);
+    /// Puts the window where it was, as large as it was. Where no screen shows its title by now it goes to
+    /// the middle of the main screen, and with the given size when nothing usable is stored. Never smaller
+    /// than the minimum, and never larger than its screen, for which the minimum gives way, too. The minimum
+    /// becomes the window's own.
+    void restore(QSize initialSize, QSize minimumSize);
 
 private:
     void savePending();

@@ -19,6 +19,7 @@ class Setup : public QObject
 public slots:
     void applicationAvailable()
     {
+        QCoreApplication::setApplicationVersion(QStringLiteral("1.2.3"));
         QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
         m_fixture = std::make_unique<keyvora::Fixture>();
     }

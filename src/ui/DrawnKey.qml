@@ -1,0 +1,63 @@
+// SPDX-FileCopyrightText: 2026 The Keyvora developers
+// SPDX-License-Identifier: MIT
+
+import QtQuick
+import QtQuick.Templates as T
+import Keyvora
+
+// A key of the drawn keyboard.
+T.Button {
+    id: root
+
+    required property string token
+    property bool available: false
+    property bool selected: false
+
+    readonly property bool isInPlay: root.selected || root.available
+    readonly property color ink: root.selected ? Theme.accentInk : root.available ? Theme.accent : Theme.tertiaryInk
+
+    // Arrow keys lead here, not Tab.
+    focusPolicy: Qt.ClickFocus
+    text: Localized.keyCapLabel(root.token, Localized.czech)
+    Accessible.name: {
+        let name = Localized.spokenKeys([root.token], Localized.czech);
+        if (Localized.czech)
+            name += root.available ? ", dostupná" : ", nedostupná";
+        else
+            name += root.available ? ", available" : ", not available";
+        if (root.selected)
+            name += Localized.czech ? ", vybraná" : ", selected";
+        return name;
+    }
+    Accessible.selectable: true
+    Accessible.selected: root.selected
+    Accessible.onPressAction: root.clicked()
+    Keys.onReturnPressed: root.clicked()
+    Keys.onEnterPressed: root.clicked()
+
+    contentItem: PlainLabel {
+        text: root.text
+        color: root.ink
+        opacity: root.down ? 0.7 : 1
+        font.weight: root.isInPlay || !Theme.highContrast ? Theme.strongWeight : Theme.regularWeight
+        fontSizeMode: Text.HorizontalFit
+        horizontalAlignment: Text.AlignHCenter
+    }
+    background: RoundedRectangle {
+        radius: 8
+        color: root.selected ? Theme.accent : Theme.capFill
+        // With much contrast all outlines are strong, and the colour alone would not tell which key does something.
+        borderWidth: root.isInPlay ? Theme.hairlineWidth : 1
+        borderColor: root.isInPlay ? Theme.accent : Theme.hairline
+
+        RoundedRectangle {
+            anchors.fill: parent
+            radius: parent.radius
+            color: root.down ? Theme.softAccent : Theme.hoverFill
+            visible: root.hovered || root.down
+        }
+        FocusRing {
+            control: root
+        }
+    }
+}
