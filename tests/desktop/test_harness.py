@@ -9,13 +9,18 @@ import signal
 import subprocess
 import unittest
 import unittest.mock
+import uuid
 
-from desktop import accessibility, artifacts, keyboard, pointer, screenshot, waiting, windows
+from desktop import accessibility, artifacts, keyboard, memory, menus, pointer, screenshot, waiting, windows
 from desktop.accessibility import Role, State
+from desktop.appearances import Appearances
+from desktop.applications import Applications
 from desktop.defaults import Defaults
 from desktop.keyvora import KeyvoraTestCase
 from desktop.testcase import DesktopTestCase
 
+# For a desktop to come and go, also on a machine that is busy.
+PATIENCE_SECONDS = 60
 VIRTUAL_DESKTOP = pathlib.Path(__file__).resolve().parents[2] / "scripts" / "virtual-desktop"
 
 
@@ -113,6 +118,42 @@ class ProgramsTest(DesktopTestCase):
         picture = self.directory / "screen.png"
         screenshot.save(picture)
         self.assertEqual(b"\x89PNG", picture.read_bytes()[:4])
+
+
+class MenusTest(Applications, DesktopTestCase):
+    """Menus, and what else comes up without the window manager."""
+
+    def test_a_row_is_there_while_its_menu_is_open(self):
+        mousepad = self.start_mousepad()
+        menu = self.open_menu(mousepad, "Edit", "Convert")
+        self.assertEqual("Transpose", self.row(menu, "Transpose").name.strip())
+        keyboard.press("Escape", "Escape")
+        self.wait_for(lambda: not menus.row(menu, "Transpose"), "the menu is closed")
+        self.assertFalse(menus.is_open(menu))
+
+    def test_a_menu_that_was_open_for_a_moment_is_recorded(self):
+        mousepad, galculator = self.start_mousepad(), self.start_galculator()
+        appearances = Appearances(self)
+        self.assertEqual([], appearances.of_process(mousepad))
+        menu = self.open_menu(mousepad, "Edit")
+        self.row(menu, "Undo")
+        keyboard.press("Escape")
+        self.wait_for(lambda: not menus.is_open(menu), "the menu is closed")
+        self.assertEqual(1, len(appearances.of_process(mousepad)))
+        self.assertEqual([], appearances.of_process(galculator))
+
+
+class MemoryTest(DesktopTestCase):
+    def test_finds_a_text_that_a_program_holds_and_no_other(self):
+        text, other = uuid.uuid4().hex, uuid.uuid4().hex
+        command = "import sys; text = sys.stdin.readline(); print(flush=True); sys.stdin.read()"
+        with subprocess.Popen(
+            ["/usr/bin/python3", "-c", command], stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True
+        ) as program:
+            print(text, file=program.stdin, flush=True)
+            self.assertEqual("\n", program.stdout.readline())
+            self.assertTrue(memory.holds(program.pid, text))
+            self.assertFalse(memory.holds(program.pid, other))
 
 
 class FailureTest(DesktopTestCase):
@@ -247,7 +288,16 @@ class VirtualDesktopTest(unittest.TestCase):
             capture_output=True,
             text=True,
             check=False,
+            timeout=PATIENCE_SECONDS,
         )
+
+    def status_of(self, desktop):
+        """How a desktop ends; one that does not is killed, for nobody else would end it."""
+        try:
+            return desktop.wait(PATIENCE_SECONDS)
+        except subprocess.TimeoutExpired:
+            desktop.kill()
+            raise
 
     def test_passes_output_input_and_status_on(self):
         outcome = self.on_desktop("echo out; echo err >&2; exit 7")
@@ -300,7 +350,7 @@ class VirtualDesktopTest(unittest.TestCase):
             ) as desktop:
                 place = desktop.stdout.readline().strip()
                 desktop.send_signal(told)
-                self.assertEqual(128 + told, desktop.wait(10))
+                self.assertEqual(128 + told, self.status_of(desktop))
                 self.assertFalse(os.path.exists(place))
                 self.assertEqual([], processes_of(place))
 

@@ -16,39 +16,34 @@ import time
 DEADLINE_SECONDS = 15
 LOOK_AGAIN_SECONDS = 0.05
 
-# A panel along the top edge with nothing but the status area at its right end.
-XFCE_PANEL = """<?xml version="1.0" encoding="UTF-8"?>
-<channel name="xfce4-panel" version="1.0">
-  <property name="configver" type="int" value="2"/>
-  <property name="panels" type="array">
-    <value type="int" value="1"/>
-    <property name="panel-1" type="empty">
-      <property name="position" type="string" value="p=6;x=0;y=0"/>
-      <property name="position-locked" type="bool" value="true"/>
-      <property name="length" type="uint" value="100"/>
-      <property name="size" type="uint" value="28"/>
-      <property name="plugin-ids" type="array">
-        <value type="int" value="1"/>
-        <value type="int" value="2"/>
-      </property>
-    </property>
-  </property>
-  <property name="plugins" type="empty">
-    <property name="plugin-1" type="string" value="separator">
-      <property name="expand" type="bool" value="true"/>
-      <property name="style" type="uint" value="0"/>
-    </property>
-    <property name="plugin-2" type="string" value="systray"/>
-  </property>
-</channel>
-"""
+# A panel along one edge with nothing but the status area at its end.
+XFCE_PANEL = {
+    "/configver": ("int", 2),
+    "/panels": ("array", (1,)),
+    "/panels/panel-1/position-locked": ("bool", "true"),
+    "/panels/panel-1/length": ("uint", 100),
+    "/panels/panel-1/size": ("uint", 28),
+    "/panels/panel-1/plugin-ids": ("array", (1, 2)),
+    "/plugins/plugin-1": ("string", "separator"),
+    "/plugins/plugin-1/expand": ("bool", "true"),
+    "/plugins/plugin-1/style": ("uint", 0),
+    "/plugins/plugin-2": ("string", "systray"),
+}
+# Its corner, and whether it stands upright.
+XFCE_EDGES = {"top": (6, 0), "bottom": (8, 0), "left": (6, 1), "right": (2, 1)}
 
 TINT2 = """panel_items = S
-panel_position = top center horizontal
+panel_position = {position}
 panel_size = 100% 30
 systray_padding = 2 2 2
 systray_icon_size = 22
 """
+TINT2_EDGES = {
+    "top": "top center horizontal",
+    "bottom": "bottom center horizontal",
+    "left": "center left vertical",
+    "right": "center right vertical",
+}
 
 WINDOW = re.compile(
     r'^(?P<indent> +)0x[0-9a-f]+ (?:"(?P<name>.*)"|\(has no name\)): '
@@ -57,35 +52,46 @@ WINDOW = re.compile(
 )
 
 
-def start_xfce_panel():
+def start_xfce_panel(edge="top"):
     """Reads icons from the session bus (StatusNotifierItem); also embeds windows."""
-    config = _config("xfce4/xfconf/xfce-perchannel-xml/xfce4-panel.xml")
-    if not config.exists():
-        config.parent.mkdir(parents=True, exist_ok=True)
-        config.write_text(XFCE_PANEL)
+    corner, is_upright = XFCE_EDGES[edge]
+    place = {
+        "/panels/panel-1/position": ("string", f"p={corner};x=0;y=0"),
+        "/panels/panel-1/mode": ("uint", is_upright),
+    }
+    # The session's settings outlive the panel.
+    for name, (kind, value) in (XFCE_PANEL | place).items():
+        values = [("int", each) for each in value] if kind == "array" else [(kind, value)]
+        options = [option for kind, each in values for option in ("--type", kind, "--set", str(each))]
+        force = ["--force-array"] if kind == "array" else []
+        command = ["xfconf-query", "--channel", "xfce4-panel", "--property", name, "--create", *force, *options]
+        subprocess.run(command, stdout=subprocess.DEVNULL, check=True)
     return _start(["xfce4-panel", "--disable-wm-check"], "Xfce4-panel")
 
 
-def start_trayer():
-    """Embeds windows; sits in the upper right corner and is as wide as its icons."""
-    return _start(["trayer", "--edge", "top", "--align", "right", "--height", "24", "--widthtype", "request"], "trayer")
+def start_trayer(edge="top", monitor=0):
+    """Embeds windows; is as wide as its icons, and sits at the right end of its edge, or in the middle of an upright one."""
+    align = "right" if edge in ("top", "bottom") else "center"
+    place = ["--edge", edge, "--align", align, "--height", "24", "--widthtype", "request", "--monitor", str(monitor)]
+    return _start(["trayer", *place], "trayer")
 
 
-def start_tint2():
-    """Embeds windows; a panel along the top edge with the icons at its left end."""
+def start_tint2(edge="top"):
+    """Embeds windows; a panel along the whole edge with the icons at its beginning."""
     config = _config("tint2/tray.tint2rc")
     config.parent.mkdir(parents=True, exist_ok=True)
-    config.write_text(TINT2)
+    config.write_text(TINT2.format(position=TINT2_EDGES[edge]))
     return _start(["tint2", "-c", str(config)], "Tint2")
 
 
 def find_tray_icon(host, program="keyvora"):
     """Waits until the running host shows the program's icon at rest; returns its centre on the screen."""
     if host.args[0] == "xfce4-panel":
-        # It draws the icons itself, in one window that is a pixel wide without icons. The program's icon is
+        # It draws the icons itself, in one window that is a pixel long without icons. The program's icon is
         # the only one there.
         def is_icon(window):
-            return window["name"] == "wrapper-2.0" and window["depth"] > 1 and window["width"] > 1
+            is_long = window["width"] > 1 and window["height"] > 1
+            return window["name"] == "wrapper-2.0" and window["depth"] > 1 and is_long
     else:
         # It wraps the program's window into one of its own.
         def is_icon(window):
@@ -104,9 +110,17 @@ def has_embedded_icon(program="keyvora"):
 
 
 def _start(command, window_class):
+    # Beside its panel, a host has invisible windows of the same class that are ten pixels wide and high.
+    def is_panel(window):
+        return window["class"] == window_class and max(window["width"], window["height"]) > 10
+
     host = subprocess.Popen(command, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-    # Beside its panel, a host has invisible windows of the same class that are ten pixels high.
-    _await(host, lambda: any(window["class"] == window_class and window["height"] > 10 for window in _windows()))
+    try:
+        _await(host, lambda: any(map(is_panel, _windows())))
+    except BaseException:
+        host.kill()
+        host.wait()
+        raise
     return host
 
 

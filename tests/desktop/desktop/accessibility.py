@@ -106,6 +106,10 @@ class Node:
         length = self._property("Text.CharacterCount", 0)
         return self._ask("Text.GetText", GLib.Variant("(ii)", (0, length)), "")
 
+    def press(self):
+        """Does what a click on it would do, without the pointer and without the keyboard's place."""
+        self._ask("Action.DoAction", GLib.Variant("(i)", (0,)))
+
     def walk(self):
         """The object and everything below it, in reading order."""
         ahead = [self]

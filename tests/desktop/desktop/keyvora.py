@@ -58,21 +58,25 @@ class KeyvoraTestCase(DesktopTestCase):
         self.binary = binary
         self.program = None
         self._allowed_output = []
+        self._allowed_exit_codes = {0}
         self._starts = []
         self.defaults = Defaults(self._make_directories())
         self.defaults.write({"hasSeenOnboarding": True})
 
     # Starting and ending
 
-    def start_program(self, **environment):
-        """Starts the program without waiting for anything; variables may be added to its environment."""
-        process = self.start(self.binary, environment={**self._environment, **environment})
+    def start_program(self, *starter, **environment):
+        """Starts the program without waiting for anything; variables may be added to its environment.
+
+        `starter` is a command that turns into the program that it is given.
+        """
+        process = self.start(*starter, self.binary, environment={**self._environment, **environment})
         self._starts.append(process)
         return process
 
-    def launch(self, **environment):
+    def launch(self, *starter, **environment):
         """Starts the program, which must open its window; it is `self.program` from then on."""
-        self.program = self.start_program(**environment)
+        self.program = self.start_program(*starter, **environment)
         self.window(self.program, WINDOW_TITLE)
         self.wait_until_active(self.program)
         self.see(Role.FRAME, WINDOW_TITLE)
@@ -93,6 +97,10 @@ class KeyvoraTestCase(DesktopTestCase):
         """The program may write lines in which this is found."""
         self._allowed_output.append(re.compile(pattern))
 
+    def allow_exit_code(self, code):
+        """The program may end with that."""
+        self._allowed_exit_codes.add(code)
+
     def complaints(self, process):
         if process not in self._starts:
             return []
@@ -101,7 +109,7 @@ class KeyvoraTestCase(DesktopTestCase):
             for line in process.output.splitlines()
             if not any(allowed.search(line) for allowed in self._allowed_output)
         ]
-        if process.exit_code != 0 and not process.was_killed:
+        if process.exit_code not in self._allowed_exit_codes and not process.was_killed:
             complaints.append(f"the program ended with {process.exit_code}")
         return complaints
 
@@ -227,6 +235,21 @@ class KeyvoraTestCase(DesktopTestCase):
     def switch_off(self, switch):
         self.click(switch)
         self.wait_for(lambda: not switch.is_checked, f"{switch.name!r} is off")
+
+    def file_name(self):
+        """The field for the name in a file dialog, which gives it the keyboard."""
+        return self.wait_for(
+            lambda: next((node for node in self.screen.find_all(Role.TEXT) if node.has(State.FOCUSED)), None),
+            "the dialog asks for a name",
+        )
+
+    def enter_file_name(self, path):
+        """Ends a file dialog with that file."""
+        field = self.file_name()
+        keyboard.press("ctrl+a")
+        keyboard.type_text(str(path))
+        self.wait_for(lambda: field.text == str(path), "the name is in the field")
+        keyboard.press("Return")
 
     def wait_for_stored(self, **values):
         """Waits until the stored defaults hold these values."""

@@ -2,9 +2,11 @@
 # SPDX-License-Identifier: MIT
 """The mouse."""
 
+import contextlib
 import subprocess
 
 LEFT, MIDDLE, RIGHT = 1, 2, 3
+WHEEL_DOWN = 5
 
 
 def click(node, button=LEFT):
@@ -17,6 +19,16 @@ def click(node, button=LEFT):
 
 def click_at(x, y, button=LEFT):
     subprocess.run(["xdotool", "mousemove", str(x), str(y), "click", str(button)], check=True)
+
+
+@contextlib.contextmanager
+def held_at(x, y, button=LEFT):
+    """Presses the button there and releases it, in the same place, when the context ends."""
+    subprocess.run(["xdotool", "mousemove", str(x), str(y), "mousedown", str(button)], check=True)
+    try:
+        yield
+    finally:
+        subprocess.run(["xdotool", "mouseup", str(button)], check=True)
 
 
 def move_to(x, y):

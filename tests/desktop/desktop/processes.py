@@ -2,11 +2,12 @@
 # SPDX-License-Identifier: MIT
 """Programs under observation: started with their own environment, their output kept."""
 
+import contextlib
 import os
 import signal
 import subprocess
 
-DEADLINE_SECONDS = 10
+DEADLINE_SECONDS = 20
 
 
 class Process:
@@ -64,3 +65,13 @@ class Process:
         self.was_killed = True
         self._popen.kill()
         self.wait()
+
+
+@contextlib.contextmanager
+def stopped(process):
+    """A process that neither runs nor ends as long as the context lasts, as one that hangs."""
+    os.kill(process.pid, signal.SIGSTOP)
+    try:
+        yield
+    finally:
+        os.kill(process.pid, signal.SIGCONT)

@@ -8,7 +8,7 @@ from gi.repository import GLib
 
 from . import accessibility_bus
 
-DEADLINE_SECONDS = 10
+DEADLINE_SECONDS = 20
 LOOK_AGAIN_MILLISECONDS = 50
 
 

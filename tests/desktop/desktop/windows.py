@@ -57,6 +57,31 @@ def frame_free_geometry(window):
     return Rectangle(*(int(number[1]) for number in numbers)) if all(numbers) else None
 
 
+def at(x, y):
+    """Moves the pointer to a point of the screen and returns the window on top there, of whatever kind."""
+    facts = _output("xdotool", "mousemove", str(x), str(y), "getmouselocation", "--shell")
+    return int(re.search(r"^WINDOW=(\d+)$", facts, re.MULTILINE)[1])
+
+
+def work_area():
+    """The part of the screen that panels leave to applications, or nothing."""
+    numbers = re.findall(r"\d+", _property("-root", name="_NET_WORKAREA"))
+    return Rectangle(*map(int, numbers[:4])) if len(numbers) >= 4 else None
+
+
+def workspace():
+    """The number of the workspace that shows."""
+    return int(_property("-root", name="_NET_CURRENT_DESKTOP"))
+
+
+def set_workspaces(count):
+    subprocess.run(["xdotool", "set_num_desktops", str(count)], check=True)
+
+
+def show_workspace(number):
+    subprocess.run(["xdotool", "set_desktop", str(number)], check=True)
+
+
 def activate(window):
     """Asks the window manager to hand the keyboard to a window, as a task bar does."""
     subprocess.run(["xdotool", "windowactivate", str(window)], check=True)
