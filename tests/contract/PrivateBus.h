@@ -10,6 +10,8 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
+#include <mutex>
+
 namespace keyvora {
 
 /// A session bus that nobody else is on and that starts no services by itself.
@@ -50,12 +52,15 @@ public:
 
     [[nodiscard]] QString address() const { return m_address; }
 
-    /// A connection of its own; the name tells it from the others of this bus.
+    /// A connection of its own; the name tells it from the others of this bus. For any thread.
     QDBusConnection connect(const QString &name)
     {
         // Names are known all over the process, addresses differ from bus to bus.
         const QString unique = name + u'@' + m_address;
-        m_connections.append(unique);
+        {
+            const std::scoped_lock lock(m_mutex);
+            m_connections.append(unique);
+        }
         return QDBusConnection::connectToBus(m_address, unique);
     }
 
@@ -66,6 +71,7 @@ private:
     QTemporaryDir m_folder;
     QProcess m_daemon;
     QString m_address;
+    std::mutex m_mutex;
     QStringList m_connections;
 };
 
