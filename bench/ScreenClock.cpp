@@ -191,9 +191,15 @@ private:
         return *static_cast<const uint32_t *>(xcb_get_property_value(reply.get()));
     }
 
+    /// What a window belongs to is asked once: it may be destroyed by the time its end is heard of.
     bool isFollowed(xcb_window_t window)
     {
-        return m_followed != 0 && number(window, m_pid) == static_cast<uint32_t>(m_followed);
+        if (m_followed == 0)
+            return false;
+        uint32_t &owner = m_owners[window];
+        if (owner == 0)
+            owner = number(window, m_pid).value_or(0);
+        return owner == static_cast<uint32_t>(m_followed);
     }
 
     void watchTree(xcb_window_t parent)
@@ -248,7 +254,7 @@ private:
             break;
         }
         case XCB_DESTROY_NOTIFY:
-            m_windows.erase(reinterpret_cast<const xcb_destroy_notify_event_t &>(event).window);
+            forget(reinterpret_cast<const xcb_destroy_notify_event_t &>(event).window);
             break;
         case XCB_PROPERTY_NOTIFY:
             if (reinterpret_cast<const xcb_property_notify_event_t &>(event).atom == m_activeWindow) {
@@ -276,6 +282,12 @@ private:
         m_seen.frame = true;
         if (damage.area.y + damage.area.height > found->second.height / 2)
             m_seen.listFrame = true;
+    }
+
+    void forget(xcb_window_t window)
+    {
+        m_windows.erase(window);
+        m_owners.erase(window);
     }
 
     void readKeyboard(const xcb_setup_t &setup)
@@ -317,6 +329,7 @@ private:
     xcb_atom_t m_trayOpcode = 0;
     std::map<xcb_keysym_t, xcb_keycode_t> m_keyCodes;
     std::map<xcb_window_t, Window> m_windows;
+    std::map<xcb_window_t, uint32_t> m_owners;
     pid_t m_followed = 0;
     Seen m_seen;
 };
