@@ -30,12 +30,28 @@ struct Shape
     friend bool operator==(const Shape &, const Shape &) = default;
 };
 
+qreal fittingRadius(const QRectF &place, qreal radius)
+{
+    return std::clamp(radius, 0.0, std::min(place.width(), place.height()) / 2);
+}
+
 QPainterPath rounded(const QRectF &place, qreal radius)
 {
-    const qreal most = std::min(place.width(), place.height()) / 2;
-    const qreal fitting = std::clamp(radius, 0.0, most);
+    const qreal fitting = fittingRadius(place, radius);
     QPainterPath path;
     path.addRoundedRect(place, fitting, fitting);
+    return path;
+}
+
+/// The upper part of a rounded rectangle, down to a straight edge below its round corners.
+QPainterPath upperPart(const QRectF &place, qreal radius, qreal bottom)
+{
+    const qreal side = 2 * fittingRadius(place, radius);
+    QPainterPath path(QPointF(place.left(), bottom));
+    path.arcTo(QRectF(place.left(), place.top(), side, side), 180, -90);
+    path.arcTo(QRectF(place.right() - side, place.top(), side, side), 90, -90);
+    path.lineTo(place.right(), bottom);
+    path.closeSubpath();
     return path;
 }
 
@@ -48,17 +64,8 @@ std::pair<qreal, qreal> wholePixels(qreal begin, qreal length)
     return {first, length < thin ? std::max(1.0, std::round(length)) : std::round(begin + length) - first};
 }
 
-/// Draws in pixels.
-void draw(const Shape &shape, QPainter &painter)
+void fill(const QPainterPath &outer, const QPainterPath &inner, const Shape &shape, QPainter &painter)
 {
-    const QPainterPath outer = rounded(shape.place, shape.radius);
-    if (shape.borderWidth <= 0 || shape.borderColor.alpha() == 0) {
-        painter.fillPath(outer, shape.color);
-        return;
-    }
-    const qreal line = shape.borderWidth;
-    const QRectF place = shape.place.adjusted(line, line, -line, -line);
-    const QPainterPath inner = place.isValid() ? rounded(place, shape.radius - line) : QPainterPath();
     // One over the other, nothing of what is below shows between them.
     const bool canCover = shape.borderColor.alpha() == 255 && shape.color.alpha() == 255;
     QPainterPath border = outer;
@@ -68,6 +75,42 @@ void draw(const Shape &shape, QPainter &painter)
     painter.fillPath(border, shape.borderColor);
     if (shape.color.alpha() > 0)
         painter.fillPath(inner, shape.color);
+}
+
+/// Draws in pixels. Only round corners are drawn as paths: the toolkit hands a path of many lines to other
+/// threads and waits for them, which takes longer than drawing it.
+void draw(const Shape &shape, QPainter &painter)
+{
+    const QRectF place = shape.place;
+    const bool hasBorder = shape.borderWidth > 0 && shape.borderColor.alpha() > 0;
+    const qreal line = hasBorder ? shape.borderWidth : 0;
+    const QRectF within = place.adjusted(line, line, -line, -line);
+    const qreal corner = std::ceil(std::max(fittingRadius(place, shape.radius), line));
+    if (place.height() <= 2 * corner || !within.isValid()) {
+        if (hasBorder)
+            fill(rounded(place, shape.radius),
+                 within.isValid() ? rounded(within, shape.radius - line) : QPainterPath(), shape, painter);
+        else
+            painter.fillPath(rounded(place, shape.radius), shape.color);
+        return;
+    }
+
+    const QRectF middle = place.adjusted(0, corner, 0, -corner);
+    const QPainterPath outer = upperPart(place, shape.radius, middle.top());
+    const QPainterPath inner =
+        hasBorder ? upperPart(within, shape.radius - line, middle.top()) : QPainterPath();
+    const QTransform upsideDown(1, 0, 0, -1, 0, place.top() + place.bottom());
+    if (hasBorder) {
+        fill(outer, inner, shape, painter);
+        fill(upsideDown.map(outer), upsideDown.map(inner), shape, painter);
+        painter.fillRect(QRectF(middle.topLeft(), QSizeF(line, middle.height())), shape.borderColor);
+        painter.fillRect(QRectF(within.right(), middle.top(), line, middle.height()), shape.borderColor);
+    } else {
+        painter.fillPath(outer, shape.color);
+        painter.fillPath(upsideDown.map(outer), shape.color);
+    }
+    if (shape.color.alpha() > 0)
+        painter.fillRect(middle.adjusted(line, 0, -line, 0), shape.color);
 }
 
 class Node : public QSGRenderNode
