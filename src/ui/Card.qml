@@ -12,20 +12,11 @@ Item {
     property real cornerRadius: 16
 
     CardShadow {
-        visible: !root.raised
         anchors.fill: parent
         cornerRadius: root.cornerRadius
-        blur: 4
-        offset: 2
-        percent: 5
-    }
-    CardShadow {
-        visible: root.raised
-        anchors.fill: parent
-        cornerRadius: root.cornerRadius
-        blur: 8
-        offset: 3
-        percent: 10
+        blur: root.raised ? 8 : 4
+        offset: root.raised ? 3 : 2
+        percent: root.raised ? 10 : 5
     }
     RoundedRectangle {
         anchors.fill: parent

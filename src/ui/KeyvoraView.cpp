@@ -4,6 +4,7 @@
 #include "ui/KeyvoraView.h"
 
 #include "system/UnusedMemory.h"
+#include "ui/PictureCache.h"
 
 #include <QGuiApplication>
 #include <QKeyEvent>
@@ -52,6 +53,7 @@ void KeyvoraView::hideEvent(QHideEvent *event)
 {
     QQuickView::hideEvent(event);
     releaseResources();
+    PictureCache::clear();
     engine()->collectGarbage();
     returnUnusedMemory();
 }

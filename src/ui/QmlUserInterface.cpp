@@ -94,9 +94,7 @@ QmlUserInterface::QmlUserInterface(const Context &context, std::chrono::millisec
     , m_trustController(context.grantTrust)
 {
     m_engine.addImportPath(u"qrc:/qt/qml"_s);
-    m_engine.addImageProvider(u"symbol"_s, new SymbolImageProvider);
     m_engine.addImageProvider(u"glow"_s, new GlowImageProvider);
-    m_engine.addImageProvider(u"shadow"_s, new ShadowImageProvider);
     m_theme = themeOf(m_engine);
     followAppearance();
     QObject::connect(&m_context.appearance, &Appearance::preferencesChanged, m_theme,

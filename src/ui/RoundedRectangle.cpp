@@ -3,171 +3,72 @@
 
 #include "ui/RoundedRectangle.h"
 
-#include <QMatrix4x4>
-#include <QPainter>
-#include <QPainterPath>
+#include "ui/NinePatch.h"
+#include "ui/PictureCache.h"
+#include "ui/PixelNode.h"
+#include "ui/RoundedPicture.h"
+
 #include <QQuickWindow>
-#include <QSGRenderNode>
-#include <QSGRendererInterface>
 
 #include <algorithm>
 #include <cmath>
-#include <utility>
 
 namespace keyvora {
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
-/// What is drawn; lengths in units of the item.
-struct Shape
+NinePatch patch(const RoundedLook &look, const QSize &size)
 {
-    QRectF place;
-    QColor color;
-    qreal radius = 0;
-    qreal borderWidth = 0;
-    QColor borderColor;
-
-    friend bool operator==(const Shape &, const Shape &) = default;
-};
-
-qreal fittingRadius(const QRectF &place, qreal radius)
-{
-    return std::clamp(radius, 0.0, std::min(place.width(), place.height()) / 2);
+    const auto border = static_cast<int>(std::ceil(std::max(look.radius, look.borderWidth)));
+    const QSize least(NinePatch::lengthFor(size.width(), border),
+                      NinePatch::lengthFor(size.height(), border));
+    const QString name = u"rounded/%1/%2/"_s.arg(least.width()).arg(least.height()) + look.name();
+    return {PictureCache::picture(name, [&] { return roundedPicture(look, least); }), border};
 }
 
-QPainterPath rounded(const QRectF &place, qreal radius)
+/// In pieces that are drawn at once.
+void fill(const QRect &place, const QColor &color, QPainter &painter)
 {
-    const qreal fitting = fittingRadius(place, radius);
-    QPainterPath path;
-    path.addRoundedRect(place, fitting, fitting);
-    return path;
+    constexpr int lines = 64;
+    for (int top = place.top(); top <= place.bottom(); top += lines)
+        painter.fillRect(QRect(place.left(), top, place.width(), std::min(lines, place.bottom() + 1 - top)),
+                         color);
 }
 
-/// The upper part of a rounded rectangle, down to a straight edge below its round corners.
-QPainterPath upperPart(const QRectF &place, qreal radius, qreal bottom)
-{
-    const qreal side = 2 * fittingRadius(place, radius);
-    QPainterPath path(QPointF(place.left(), bottom));
-    path.arcTo(QRectF(place.left(), place.top(), side, side), 180, -90);
-    path.arcTo(QRectF(place.right() - side, place.top(), side, side), 90, -90);
-    path.lineTo(place.right(), bottom);
-    path.closeSubpath();
-    return path;
-}
-
-/// Where a stretch begins, and its length, in whole pixels.
-std::pair<qreal, qreal> wholePixels(qreal begin, qreal length)
-{
-    constexpr qreal thin = 4;
-    const qreal first = std::round(begin);
-    // Lines are as thick in one place as in another, which ends that are rounded by themselves are not.
-    return {first, length < thin ? std::max(1.0, std::round(length)) : std::round(begin + length) - first};
-}
-
-void fill(const QPainterPath &outer, const QPainterPath &inner, const Shape &shape, QPainter &painter)
-{
-    // One over the other, nothing of what is below shows between them.
-    const bool canCover = shape.borderColor.alpha() == 255 && shape.color.alpha() == 255;
-    QPainterPath border = outer;
-    // What is within both paths is not filled.
-    if (!canCover)
-        border.addPath(inner);
-    painter.fillPath(border, shape.borderColor);
-    if (shape.color.alpha() > 0)
-        painter.fillPath(inner, shape.color);
-}
-
-/// Draws in pixels. Only round corners are drawn as paths: the toolkit hands a path of many lines to other
-/// threads and waits for them, which takes longer than drawing it.
-void draw(const Shape &shape, QPainter &painter)
-{
-    const QRectF place = shape.place;
-    const bool hasBorder = shape.borderWidth > 0 && shape.borderColor.alpha() > 0;
-    const qreal line = hasBorder ? shape.borderWidth : 0;
-    const QRectF within = place.adjusted(line, line, -line, -line);
-    const qreal corner = std::ceil(std::max(fittingRadius(place, shape.radius), line));
-    if (place.height() <= 2 * corner || !within.isValid()) {
-        if (hasBorder)
-            fill(rounded(place, shape.radius),
-                 within.isValid() ? rounded(within, shape.radius - line) : QPainterPath(), shape, painter);
-        else
-            painter.fillPath(rounded(place, shape.radius), shape.color);
-        return;
-    }
-
-    const QRectF middle = place.adjusted(0, corner, 0, -corner);
-    const QPainterPath outer = upperPart(place, shape.radius, middle.top());
-    const QPainterPath inner =
-        hasBorder ? upperPart(within, shape.radius - line, middle.top()) : QPainterPath();
-    const QTransform upsideDown(1, 0, 0, -1, 0, place.top() + place.bottom());
-    if (hasBorder) {
-        fill(outer, inner, shape, painter);
-        fill(upsideDown.map(outer), upsideDown.map(inner), shape, painter);
-        painter.fillRect(QRectF(middle.topLeft(), QSizeF(line, middle.height())), shape.borderColor);
-        painter.fillRect(QRectF(within.right(), middle.top(), line, middle.height()), shape.borderColor);
-    } else {
-        painter.fillPath(outer, shape.color);
-        painter.fillPath(upsideDown.map(outer), shape.color);
-    }
-    if (shape.color.alpha() > 0)
-        painter.fillRect(middle.adjusted(line, 0, -line, 0), shape.color);
-}
-
-class Node : public QSGRenderNode
+class Node : public PixelNode
 {
 public:
-    explicit Node(QQuickWindow *window)
-        : m_window(window)
-    {
-    }
+    using PixelNode::PixelNode;
 
-    void setShape(const Shape &shape)
+    void set(const QRectF &newPlace, const RoundedLook &look)
     {
-        if (shape == m_shape)
+        if (newPlace == place() && look == m_look)
             return;
-        m_shape = shape;
+        setPlace(newPlace);
+        m_look = look;
+        m_drawnSize = {};
         markDirty(DirtyMaterial);
     }
 
-    [[nodiscard]] QRectF rect() const override { return m_shape.place; }
-    [[nodiscard]] RenderingFlags flags() const override { return BoundedRectRendering; }
-
-    void render(const RenderState *state) override
-    {
-        // What is clipped away as a whole is asked for, too.
-        const QRegion *clip = state->clipRegion();
-        if (clip == nullptr || clip->isEmpty())
-            return;
-        auto *painter = static_cast<QPainter *>(
-            m_window->rendererInterface()->getResource(m_window, QSGRendererInterface::PainterResource));
-        if (painter == nullptr)
-            return;
-        // Regions are those of the window, so before its coordinates are left.
-        painter->setClipRegion(*clip, Qt::ReplaceClip);
-        const qreal ratio = painter->device()->devicePixelRatio();
-        painter->setTransform(QTransform::fromScale(1 / ratio, 1 / ratio));
-        painter->setOpacity(inheritedOpacity());
-        painter->setRenderHint(QPainter::Antialiasing);
-        draw(inPixels(matrix()->toTransform() * QTransform::fromScale(ratio, ratio)), *painter);
-    }
-
 private:
-    [[nodiscard]] Shape inPixels(const QTransform &toPixels) const
+    void draw(const QRect &place, qreal scale, QPainter &painter) override
     {
-        const qreal scale = toPixels.m11();
-        const QRectF exact = toPixels.mapRect(m_shape.place);
-        Shape shape = m_shape;
-        const auto [left, width] = wholePixels(exact.left(), exact.width());
-        const auto [top, height] = wholePixels(exact.top(), exact.height());
-        shape.place = QRectF(left, top, width, height);
-        shape.radius *= scale;
-        if (shape.borderWidth > 0)
-            shape.borderWidth = std::max(1.0, std::round(shape.borderWidth * scale));
-        return shape;
+        if (place.size() != m_drawnSize || scale != m_drawnScale) {
+            m_patch = patch(m_look.inPixels(place.size(), scale), place.size());
+            m_drawnSize = place.size();
+            m_drawnScale = scale;
+        }
+        m_patch.drawFrame(place, painter);
+        if (m_look.color.alpha() > 0)
+            fill(m_patch.middleOf(place), m_look.color, painter);
     }
 
-    QQuickWindow *m_window;
-    Shape m_shape;
+    RoundedLook m_look;
+    NinePatch m_patch;
+    QSize m_drawnSize; ///< that the patch is for, as the scale
+    qreal m_drawnScale = 0;
 };
 
 } // namespace
@@ -187,7 +88,7 @@ QSGNode *RoundedRectangle::updatePaintNode(QSGNode *old, UpdatePaintNodeData * /
         return nullptr;
     }
     Node *node = old != nullptr ? static_cast<Node *>(old) : new Node(window());
-    node->setShape({boundingRect(), m_color, m_radius, hasBorder ? m_borderWidth : 0, m_borderColor});
+    node->set(boundingRect(), {m_color, m_radius, hasBorder ? m_borderWidth : 0, m_borderColor});
     return node;
 }
 

@@ -28,9 +28,7 @@ public slots:
     {
         using namespace Qt::Literals::StringLiterals;
         engine->addImportPath(u"qrc:/qt/qml"_s);
-        engine->addImageProvider(u"symbol"_s, new keyvora::SymbolImageProvider);
         engine->addImageProvider(u"glow"_s, new keyvora::GlowImageProvider);
-        engine->addImageProvider(u"shadow"_s, new keyvora::ShadowImageProvider);
         qmlRegisterSingletonInstance("KeyvoraTest", 1, 0, "Fixture", m_fixture.get());
     }
 

@@ -24,7 +24,7 @@ KeyvoraTestCase {
     }
 
     function caps(): list<string> {
-        return findAll(item.Window.window.contentItem, candidate => candidate instanceof KeyCap).map(cap => cap.token);
+        return Array.from(findAll(item.Window.window.contentItem, candidate => candidate instanceof KeyCaps)[0].keys);
     }
 
     function captureField(): KeyCaptureView {

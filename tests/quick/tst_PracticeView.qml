@@ -35,7 +35,7 @@ KeyvoraTestCase {
         verify(hasText("Press the matching key combination"));
         verify(hasText("Copy"));
         verify(hasText("Click here and press the shortcut"));
-        compare(findAll(item, candidate => candidate instanceof KeyCap).length, 0, "the answer is not shown");
+        compare(findAll(item, candidate => candidate instanceof KeyCaps).length, 0, "the answer is not shown");
     }
 
     function test_speaksCzech(): void {
@@ -222,7 +222,7 @@ KeyvoraTestCase {
     }
 
     function keyCaps(): list<string> {
-        return findAll(item, candidate => candidate instanceof KeyCap).map(cap => cap.token);
+        return Array.from(findAll(item, candidate => candidate instanceof KeyCaps)[0].keys);
     }
 
     name: "PracticeView"

@@ -60,6 +60,43 @@ KeyvoraTestCase {
         compare(picture.pixel(60, 60), Qt.rgba(1, 1, 1, 1));
     }
 
+    // What is longer than its picture is made of pieces, which must neither overlap nor leave gaps.
+    function test_longOnesAreEven(): void {
+        root.show(longComponent);
+        waitForRendering(root.item);
+        const picture = grabImage(root.item);
+        const shade = picture.pixel(10, 20);
+        fuzzyCompare(shade.r, 1, 0.02);
+        fuzzyCompare(shade.g, 0.5, 0.02);
+        for (let x = 10; x < 210; ++x)
+            compare(picture.pixel(x, 20), shade, "line at " + x);
+        for (let y = 60; y < 180; ++y) {
+            compare(picture.pixel(10, y), shade, "left edge at " + y);
+            compare(picture.pixel(209, y), shade, "right edge at " + y);
+            compare(picture.pixel(11, y), picture.pixel(11, 60), "inside at " + y);
+            compare(picture.pixel(100, y), picture.pixel(11, 60), "middle at " + y);
+        }
+        for (let x = 30; x < 190; ++x) {
+            compare(picture.pixel(x, 40), shade, "upper edge at " + x);
+            compare(picture.pixel(x, 199), shade, "lower edge at " + x);
+        }
+        compare(picture.pixel(9, 100), Qt.rgba(1, 1, 1, 1));
+        compare(picture.pixel(210, 100), Qt.rgba(1, 1, 1, 1));
+    }
+
+    function test_aShadowLiesEvenlyAroundWhatCastsIt(): void {
+        root.show(shadowComponent);
+        waitForRendering(root.item);
+        const picture = grabImage(root.item);
+        const below = picture.pixel(150, 201).r;
+        verify(below < 0.95, "shadow below: " + below);
+        for (let x = 80; x < 260; ++x)
+            fuzzyCompare(picture.pixel(x, 201).r, below, 0.005);
+        compare(picture.pixel(38, 120), picture.pixel(301, 120));
+        verify(picture.pixel(150, 38).r > below, "the shadow falls downwards");
+        compare(picture.pixel(10, 120), Qt.rgba(1, 1, 1, 1));
+    }
+
     name: "RoundedRectangle"
     subject: Component {
         Loader {
@@ -128,6 +165,53 @@ KeyvoraTestCase {
                 width: 1.25
                 height: 100
                 color: "red"
+            }
+        }
+    }
+    Component {
+        id: longComponent
+
+        Item {
+            RoundedRectangle {
+                x: 10
+                y: 20
+                width: 200
+                height: 1
+                color: "#80FF0000"
+            }
+            RoundedRectangle {
+                x: 10
+                y: 40
+                width: 200
+                height: 160
+                radius: 16
+                color: "#400000FF"
+                borderWidth: 1
+                borderColor: "#80FF0000"
+            }
+        }
+    }
+    Component {
+        id: shadowComponent
+
+        Item {
+            CardShadow {
+                x: 40
+                y: 40
+                width: 260
+                height: 160
+                cornerRadius: 16
+                blur: 8
+                offset: 3
+                percent: 30
+            }
+            RoundedRectangle {
+                x: 40
+                y: 40
+                width: 260
+                height: 160
+                radius: 16
+                color: "#00FF00"
             }
         }
     }

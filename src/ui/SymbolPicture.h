@@ -1,0 +1,16 @@
+// SPDX-FileCopyrightText: 2026 The Keyvora developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QColor>
+#include <QImage>
+#include <QString>
+
+namespace keyvora {
+
+/// One of the program's symbols, named as its file, in a colour; a square of so many pixels. Empty where
+/// there is no such symbol.
+QImage symbolPicture(const QString &name, int side, const QColor &color);
+
+} // namespace keyvora
