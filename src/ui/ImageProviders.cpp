@@ -8,7 +8,6 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <random>
 
 namespace keyvora {
 
@@ -70,6 +69,23 @@ private:
     std::array<quint32, steps + 1> m_parts{};
 };
 
+/// Numbers below a level of opacity that look random, one for each of very many pixels.
+class Noise
+{
+public:
+    quint32 next()
+    {
+        // A linear congruential generator with the constants of Numerical Recipes; its upper bits are the
+        // better ones.
+        m_state = m_state * 1664525U + 1013904223U;
+        return m_state >> 16U;
+    }
+
+private:
+    quint32 m_state = 1;
+};
+static_assert(GlowFall::one == 1U << 16U);
+
 /// A colour at each level of opacity.
 std::array<QRgb, levels> glowColors(const QColor &color)
 {
@@ -96,14 +112,14 @@ QImage GlowImageProvider::requestImage(const QString &id, QSize *size, const QSi
     const auto radius = static_cast<float>(center.x());
     const GlowFall fall(color.alphaF());
     const std::array<QRgb, levels> colors = glowColors(color);
-    std::minstd_rand noise;
+    Noise noise;
     for (int y = 0; y < image.height(); ++y) {
         auto *line = reinterpret_cast<QRgb *>(image.scanLine(y));
         const float down = (static_cast<float>(y) - static_cast<float>(center.y())) / radius;
         for (int x = 0; x < image.width(); ++x) {
             const float across = (static_cast<float>(x) - radius) / radius;
             // The noise breaks up the steps between the few levels that so faint a colour has.
-            const quint32 level = fall.at(across * across + down * down) + noise() % GlowFall::one;
+            const quint32 level = fall.at(across * across + down * down) + noise.next();
             line[x] = colors[level / GlowFall::one];
         }
     }
