@@ -220,83 +220,69 @@ FocusScope {
                 visible: root.showsLibrary
                 appModel: root.appModel
             }
-            // The screens of their own exist while they are shown; what they know outlives them.
+            // The screens of their own exist, and take time and memory, while they are shown; what they know outlives them.
             Loader {
                 id: page
+
+                readonly property int section: root.sections.page
 
                 function focusFirst(): void {
                     if (page.item !== null)
                         (page.item as ScrollPage).focusFirst();
                 }
 
-                function screen(of: int): Component {
-                    switch (of) {
+                function follow(): void {
+                    switch (page.section) {
                     case SidebarModel.Page.Keyboard:
-                        return keyboardScreen;
+                        page.setSource("VisualKeyboardView.qml", {
+                            "appModel": root.appModel,
+                            "keyboard": root.learning.keyboard
+                        });
+                        break;
                     case SidebarModel.Page.Sticker:
-                        return stickerScreen;
+                        page.setSource("StickerView.qml", {
+                            "appModel": root.appModel,
+                            "sheets": root.sheets
+                        });
+                        break;
                     case SidebarModel.Page.FirstAid:
-                        return firstAidScreen;
+                        page.setSource("FirstAidView.qml", {
+                            "appModel": root.appModel,
+                            "groups": root.learning.firstAid
+                        });
+                        break;
                     case SidebarModel.Page.Daily:
-                        return dailyScreen;
+                        page.setSource("DailyLearningView.qml", {
+                            "appModel": root.appModel,
+                            "lesson": root.learning.lesson
+                        });
+                        break;
                     case SidebarModel.Page.Practice:
-                        return practiceScreen;
+                        page.setSource("PracticeView.qml", {
+                            "practice": root.learning.practice,
+                            "keyReader": root.keyReader
+                        });
+                        break;
                     default:
-                        return null;
+                        page.source = "";
                     }
                 }
 
                 anchors.fill: library
-                sourceComponent: page.screen(root.sections.page)
+                onSectionChanged: page.follow()
             }
         }
     }
-    // Qt 6.4 gives the linter no way to know that a component belongs to the one around it.
-    // qmllint disable unqualified
-    Component {
-        id: keyboardScreen
+    Connections {
+        target: page.item
+        ignoreUnknownSignals: true
 
-        VisualKeyboardView {
-            appModel: root.appModel
-            keyboard: root.learning.keyboard
-        }
-    }
-    Component {
-        id: stickerScreen
-
-        StickerView {
-            appModel: root.appModel
-            sheets: root.sheets
-            onExportRequested: sheet.setSource("CheatSheetExportSheet.qml", {
+        function onExportRequested(): void {
+            sheet.setSource("CheatSheetExportSheet.qml", {
                 "sheets": root.sheets
-            })
+            });
         }
     }
-    Component {
-        id: firstAidScreen
-
-        FirstAidView {
-            appModel: root.appModel
-            groups: root.learning.firstAid
-        }
-    }
-    Component {
-        id: dailyScreen
-
-        DailyLearningView {
-            appModel: root.appModel
-            lesson: root.learning.lesson
-        }
-    }
-    Component {
-        id: practiceScreen
-
-        PracticeView {
-            practice: root.learning.practice
-            keyReader: root.keyReader
-        }
-    }
-    // qmllint enable unqualified
 
     // At most one sheet is open; it exists while it is.
     Loader {

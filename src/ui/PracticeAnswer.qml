@@ -50,7 +50,7 @@ Column {
             // The modifiers come first.
             x: Math.max(0, (place.width - caps.width) / 2)
             anchors.verticalCenter: parent.verticalCenter
-            keys: root.keys
+            keys: root.keys // qmllint disable type
             compact: root.keys.length > 8
         }
     }

@@ -144,13 +144,13 @@ Item {
                     readonly property real fullWidth: fullSize.implicitWidth
 
                     anchors.bottom: parent.bottom
-                    keys: root.keys
+                    keys: root.keys // qmllint disable type
                     compact: fullWidth > capsPlace.width
                 }
                 KeyCaps {
                     id: fullSize
                     visible: false
-                    keys: root.keys.length > 6 ? root.keys : []
+                    keys: root.keys.length > 6 ? root.keys : [] // qmllint disable type
                 }
             }
         }

@@ -38,7 +38,7 @@ Item {
 
         KeyCaps {
             id: caps
-            keys: root.keys
+            keys: root.keys // qmllint disable type
             compact: true
         }
     }
