@@ -115,9 +115,10 @@ class PrintServer:
         measures = {"width": width, "height": height, "margin": MARGIN}
         text = PRINTER.format(right=width - MARGIN, top=height - MARGIN, **measures)
         description.write_text(text, encoding="utf-8")
-        added = self._run(LPADMIN, "-p", name, "-E", "-v", f"file://{paper}", "-P", str(description))
-        self._test.assertIsNotNone(added)
-        self._test.assertIsNotNone(self._run(LPADMIN, "-d", name))
+        # A server that has just started turns some away.
+        printer = ("-p", name, "-E", "-v", f"file://{paper}", "-P", str(description))
+        self._test.wait_for(lambda: self._run(LPADMIN, *printer) is not None, "the printer is there")
+        self._test.wait_for(lambda: self._run(LPADMIN, "-d", name) is not None, "it is the standard printer")
         return paper
 
     def printed(self, paper):
