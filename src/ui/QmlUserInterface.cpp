@@ -13,7 +13,7 @@
 #include "system/ApplicationIcon.h"
 #include "system/UnusedMemory.h"
 #include "ui/CornerWindow.h"
-#include "ui/ImageProviders.h"
+#include "ui/GlowImageProvider.h"
 #include "ui/KeyvoraView.h"
 #include "ui/PanelPlacement.h"
 #include "ui/PanelWindow.h"

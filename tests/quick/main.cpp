@@ -4,7 +4,7 @@
 // Runs the tst_*.qml files of this folder over the program's own screens.
 
 #include "Fixture.h"
-#include "ui/ImageProviders.h"
+#include "ui/GlowImageProvider.h"
 
 #include <QQmlEngine>
 #include <QQuickWindow>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Keyvora developers
 // SPDX-License-Identifier: MIT
 
-#include "ui/ImageProviders.h"
+#include "ui/GlowImageProvider.h"
 
 #include <QPainter>
 
