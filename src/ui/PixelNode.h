@@ -18,7 +18,8 @@ class PixelNode : public QSGRenderNode
 public:
     explicit PixelNode(QQuickWindow *window);
 
-    [[nodiscard]] QRectF rect() const override { return m_place; }
+    /// With room for the whole pixels at the edges of the place.
+    [[nodiscard]] QRectF rect() const override { return m_place.adjusted(-1, -1, 1, 1); }
     [[nodiscard]] RenderingFlags flags() const override { return BoundedRectRendering; }
     void render(const RenderState *state) override;
 

@@ -68,6 +68,18 @@ KeyvoraTestCase {
         verify(painted > 10, painted + " pixels of the letter");
     }
 
+    // Caps end at whole pixels, which may lie beyond the end of the row.
+    function test_capsAreWholeWhereAUnitIsNoWholePixel(): void {
+        item.keys = ["C", "V"];
+        item.outline = "red";
+        item.transformOrigin = Item.TopLeft;
+        item.scale = 1.25;
+        waitForRendering(item);
+        const picture = grabImage(root);
+        compare(picture.pixel(77, 18), Qt.rgba(1, 0, 0, 1));
+        compare(picture.pixel(60, 37), Qt.rgba(1, 0, 0, 1));
+    }
+
     name: "KeyCaps"
     subject: Component {
         KeyCaps {
