@@ -3,8 +3,6 @@
 
 #include "ui/GlowImageProvider.h"
 
-#include <QPainter>
-
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -14,13 +12,6 @@ namespace keyvora {
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-QImage transparentImage(const QSize &size)
-{
-    QImage image(size, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    return image;
-}
 
 /// "red/green/blue/opacity", each from 0 to 1.
 QColor colorFromParts(const QString &parts)
@@ -106,7 +97,7 @@ GlowImageProvider::GlowImageProvider()
 QImage GlowImageProvider::requestImage(const QString &id, QSize *size, const QSize &requestedSize)
 {
     constexpr int defaultSize = 560;
-    QImage image = transparentImage(sizeOr(requestedSize, defaultSize));
+    QImage image(sizeOr(requestedSize, defaultSize), QImage::Format_ARGB32_Premultiplied);
     const QColor color = colorFromParts(id);
     const QPointF center = QRectF(image.rect()).center();
     const auto radius = static_cast<float>(center.x());
