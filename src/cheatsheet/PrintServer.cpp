@@ -5,11 +5,12 @@
 
 #include <QCoreApplication>
 #include <QDeadlineTimer>
+#include <QLibrary>
 #include <QPromise>
 #include <QThreadPool>
 
+#include <atomic>
 #include <cups/cups.h>
-#include <memory>
 
 namespace keyvora {
 
@@ -20,32 +21,68 @@ constexpr int patienceMilliseconds = 3000;
 constexpr double secondsBetweenLooks = 0.2;
 
 // A plain number, because the print system's library looks at it while it connects.
-int isEnding = 0;
+int endingFlag = 0;
 
-struct CloseConnection
+bool isEnding()
 {
-    void operator()(http_t *server) const { httpClose(server); }
+    return std::atomic_ref(endingFlag).load(std::memory_order_relaxed) != 0;
+}
+
+/// What is used of the print system's library. It is loaded for printing alone: it brings a dozen others with
+/// it, which the first window would wait for.
+class PrintLibrary
+{
+    // Before the functions, which come out of it.
+    QLibrary m_library{QStringLiteral("cups"), 2};
+    bool m_isComplete = true;
+
+    template <typename Function>
+    Function resolved(const char *name)
+    {
+        const auto function = reinterpret_cast<Function>(m_library.resolve(name));
+        m_isComplete = m_isComplete && function != nullptr;
+        return function;
+    }
+
+public:
+    decltype(&::cupsServer) server = resolved<decltype(&::cupsServer)>("cupsServer");
+    decltype(&::ippPort) port = resolved<decltype(&::ippPort)>("ippPort");
+    decltype(&::cupsEncryption) encryption = resolved<decltype(&::cupsEncryption)>("cupsEncryption");
+    decltype(&::httpConnect2) connect = resolved<decltype(&::httpConnect2)>("httpConnect2");
+    decltype(&::httpSetTimeout) setTimeout = resolved<decltype(&::httpSetTimeout)>("httpSetTimeout");
+    decltype(&::httpOptions) askOptions = resolved<decltype(&::httpOptions)>("httpOptions");
+    decltype(&::httpUpdate) update = resolved<decltype(&::httpUpdate)>("httpUpdate");
+    decltype(&::httpClose) close = resolved<decltype(&::httpClose)>("httpClose");
+
+    [[nodiscard]] bool isComplete() const { return m_isComplete; }
 };
 
 /// Non-zero to go on waiting.
-int keepsWaiting(http_t * /*server*/, void *deadline)
+int keepsWaiting(http_t * /*connection*/, void *deadline)
 {
-    return static_cast<QDeadlineTimer *>(deadline)->hasExpired() || isEnding != 0 ? 0 : 1;
+    return static_cast<QDeadlineTimer *>(deadline)->hasExpired() || isEnding() ? 0 : 1;
 }
 
 bool answersInTime()
 {
+    static const PrintLibrary library;
+    // Without it the toolkit asks no print server either.
+    if (!library.isComplete())
+        return true;
     QDeadlineTimer deadline(patienceMilliseconds);
-    const std::unique_ptr<http_t, CloseConnection> server(httpConnect2(
-        cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1, patienceMilliseconds, &isEnding));
-    if (server && isEnding == 0) {
-        httpSetTimeout(server.get(), secondsBetweenLooks, &keepsWaiting, &deadline);
+    http_t *connection = library.connect(library.server(), library.port(), nullptr, AF_UNSPEC,
+                                         library.encryption(), 1, patienceMilliseconds, &endingFlag);
+    if (connection == nullptr)
+        return !deadline.hasExpired();
+    if (!isEnding()) {
+        library.setTimeout(connection, secondsBetweenLooks, &keepsWaiting, &deadline);
         // Anything will do. What it is asked in the print protocol begins with a second of deaf waiting.
-        if (httpOptions(server.get(), "/") == 0) {
-            while (httpUpdate(server.get()) == HTTP_STATUS_CONTINUE) {
+        if (library.askOptions(connection, "/") == 0) {
+            while (library.update(connection) == HTTP_STATUS_CONTINUE) {
             }
         }
     }
+    library.close(connection);
     return !deadline.hasExpired();
 }
 
@@ -54,7 +91,8 @@ bool answersInTime()
 QFuture<bool> isPrintServerResponsive()
 {
     // The end of the program waits for what other threads do.
-    static const auto ending = QObject::connect(qApp, &QCoreApplication::aboutToQuit, [] { isEnding = 1; });
+    static const auto ending =
+        QObject::connect(qApp, &QCoreApplication::aboutToQuit, [] { std::atomic_ref(endingFlag).store(1); });
     Q_UNUSED(ending)
     const auto promise = std::make_shared<QPromise<bool>>();
     QFuture<bool> future = promise->future();
