@@ -13,7 +13,6 @@
 #include "system/ApplicationIcon.h"
 #include "system/UnusedMemory.h"
 #include "ui/CornerWindow.h"
-#include "ui/GlowImageProvider.h"
 #include "ui/KeyvoraView.h"
 #include "ui/PanelPlacement.h"
 #include "ui/PanelWindow.h"
@@ -94,7 +93,6 @@ QmlUserInterface::QmlUserInterface(const Context &context, std::chrono::millisec
     , m_trustController(context.grantTrust)
 {
     m_engine.addImportPath(u"qrc:/qt/qml"_s);
-    m_engine.addImageProvider(u"glow"_s, new GlowImageProvider);
     m_theme = themeOf(m_engine);
     followAppearance();
     QObject::connect(&m_context.appearance, &Appearance::preferencesChanged, m_theme,

@@ -13,4 +13,7 @@ namespace keyvora {
 /// there is no such symbol.
 QImage symbolPicture(const QString &name, int side, const QColor &color);
 
+/// The program's own sign, in its own colours; a square of so many pixels.
+QImage brandPicture(int side);
+
 } // namespace keyvora

@@ -4,7 +4,6 @@
 // Runs the tst_*.qml files of this folder over the program's own screens.
 
 #include "Fixture.h"
-#include "ui/GlowImageProvider.h"
 
 #include <QQmlEngine>
 #include <QQuickWindow>
@@ -28,7 +27,6 @@ public slots:
     {
         using namespace Qt::Literals::StringLiterals;
         engine->addImportPath(u"qrc:/qt/qml"_s);
-        engine->addImageProvider(u"glow"_s, new keyvora::GlowImageProvider);
         qmlRegisterSingletonInstance("KeyvoraTest", 1, 0, "Fixture", m_fixture.get());
     }
 

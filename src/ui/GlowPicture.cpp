@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Keyvora developers
 // SPDX-License-Identifier: MIT
 
-#include "ui/GlowImageProvider.h"
+#include "ui/GlowPicture.h"
 
 #include <algorithm>
 #include <array>
@@ -9,29 +9,12 @@
 
 namespace keyvora {
 
-using namespace Qt::Literals::StringLiterals;
-
 namespace {
-
-/// "red/green/blue/opacity", each from 0 to 1.
-QColor colorFromParts(const QString &parts)
-{
-    const auto part = [&](int index) {
-        return std::clamp(parts.section(u'/', index, index).toFloat(), 0.0F, 1.0F);
-    };
-    return QColor::fromRgbF(part(0), part(1), part(2), part(3));
-}
-
-QSize sizeOr(const QSize &requested, int fallback)
-{
-    return requested.width() > 0 && requested.height() > 0 ? requested : QSize(fallback, fallback);
-}
 
 constexpr size_t levels = 256;
 
 /// How opaque a glow is in a distance from its middle. Falls like a cosine, so that no edge shows where it
-/// ends. The window waits for the two glows behind it, a hundred thousands of pixels each, so this is a
-/// table.
+/// ends. The window waits for the two glows behind it, a hundred thousand pixels each, so this is a table.
 class GlowFall
 {
 public:
@@ -89,32 +72,25 @@ std::array<QRgb, levels> glowColors(const QColor &color)
 
 } // namespace
 
-GlowImageProvider::GlowImageProvider()
-    : QQuickImageProvider(Image)
+QImage glowPicture(const GlowLook &look, const QSize &size)
 {
-}
-
-QImage GlowImageProvider::requestImage(const QString &id, QSize *size, const QSize &requestedSize)
-{
-    constexpr int defaultSize = 560;
-    QImage image(sizeOr(requestedSize, defaultSize), QImage::Format_ARGB32_Premultiplied);
-    const QColor color = colorFromParts(id);
-    const QPointF center = QRectF(image.rect()).center();
-    const auto radius = static_cast<float>(center.x());
-    const GlowFall fall(color.alphaF());
-    const std::array<QRgb, levels> colors = glowColors(color);
+    QImage image(size, QImage::Format_ARGB32_Premultiplied);
+    const auto part = static_cast<float>(1 / look.radius);
+    const auto left = static_cast<float>(look.middle.x());
+    const auto top = static_cast<float>(look.middle.y());
+    const GlowFall fall(static_cast<float>(look.color.alphaF()));
+    const std::array<QRgb, levels> colors = glowColors(look.color);
     Noise noise;
     for (int y = 0; y < image.height(); ++y) {
         auto *line = reinterpret_cast<QRgb *>(image.scanLine(y));
-        const float down = (static_cast<float>(y) - static_cast<float>(center.y())) / radius;
+        const float down = (static_cast<float>(y) - top) * part;
         for (int x = 0; x < image.width(); ++x) {
-            const float across = (static_cast<float>(x) - radius) / radius;
+            const float across = (static_cast<float>(x) - left) * part;
             // The noise breaks up the steps between the few levels that so faint a colour has.
             const quint32 level = fall.at(across * across + down * down) + noise.next();
             line[x] = colors[level / GlowFall::one];
         }
     }
-    *size = image.size();
     return image;
 }
 

@@ -1,26 +1,25 @@
 // SPDX-FileCopyrightText: 2026 The Keyvora developers
 // SPDX-License-Identifier: MIT
 
-#include "ui/GlowImageProvider.h"
+#include "ui/GlowPicture.h"
 
 #include <cmath>
 #include <gtest/gtest.h>
 
 namespace keyvora {
 
-using namespace Qt::Literals::StringLiterals;
-
 namespace {
 
 constexpr int side = 400;
 
-QImage glow(const QString &color)
+const QColor blue = QColor::fromRgbF(0.2F, 0.4F, 0.6F);
+
+QImage glow(float opacity)
 {
-    GlowImageProvider provider;
-    QSize size;
-    const QImage image = provider.requestImage(color, &size, {side, side});
-    EXPECT_EQ(QSize(side, side), size);
-    EXPECT_EQ(size, image.size());
+    QColor color = blue;
+    color.setAlphaF(opacity);
+    QImage image = glowPicture({color, side / 2.0, {side / 2.0, side / 2.0}}, {side, side});
+    EXPECT_EQ(QSize(side, side), image.size());
     return image;
 }
 
@@ -39,9 +38,9 @@ double opacityAt(const QImage &image, double distance)
     return sum / directions;
 }
 
-TEST(GlowImageProviderTest, FallsLikeACosine)
+TEST(GlowPictureTest, FallsLikeACosine)
 {
-    const QImage image = glow(u"0.2/0.4/0.6/0.1"_s);
+    const QImage image = glow(0.1F);
     for (const double distance : {0.0, 0.2, 0.4, 0.5, 0.6, 0.8, 0.95}) {
         const double expected = 255 * 0.1 * (1 + std::cos(M_PI * distance)) / 2;
         // The middle is a few pixels, whose noise has no mean.
@@ -49,27 +48,27 @@ TEST(GlowImageProviderTest, FallsLikeACosine)
     }
 }
 
-TEST(GlowImageProviderTest, NothingIsDrawnBeyondItsEdge)
+TEST(GlowPictureTest, NothingIsDrawnBeyondItsEdge)
 {
-    const QImage image = glow(u"0.2/0.4/0.6/1"_s);
+    const QImage image = glow(1);
     EXPECT_EQ(0, qAlpha(image.pixel(0, 0)));
     EXPECT_EQ(0, qAlpha(image.pixel(side - 1, 0)));
     EXPECT_EQ(0, qAlpha(image.pixel(0, side - 1)));
     EXPECT_EQ(0, qAlpha(image.pixel(side - 1, side - 1)));
 }
 
-TEST(GlowImageProviderTest, HasItsColor)
+TEST(GlowPictureTest, HasItsColor)
 {
-    const QRgb middle = glow(u"0.2/0.4/0.6/1"_s).pixel(side / 2, side / 2);
+    const QRgb middle = glow(1).pixel(side / 2, side / 2);
     EXPECT_GE(qAlpha(middle), 254);
     EXPECT_NEAR(51, qRed(middle), 1);
     EXPECT_NEAR(102, qGreen(middle), 1);
     EXPECT_NEAR(153, qBlue(middle), 1);
 }
 
-TEST(GlowImageProviderTest, NeighboursDifferByNoiseSoThatNoStepsShow)
+TEST(GlowPictureTest, NeighboursDifferByNoiseSoThatNoStepsShow)
 {
-    const QImage image = glow(u"0.2/0.4/0.6/0.1"_s);
+    const QImage image = glow(0.1F);
     int changes = 0;
     for (int x = 0; x + 1 < side / 2; ++x)
         changes += image.pixel(x, side / 2) != image.pixel(x + 1, side / 2) ? 1 : 0;
@@ -77,9 +76,17 @@ TEST(GlowImageProviderTest, NeighboursDifferByNoiseSoThatNoStepsShow)
     EXPECT_GT(changes, 40);
 }
 
-TEST(GlowImageProviderTest, WhatIsNoColorIsDrawnAsOneThatIs)
+TEST(GlowPictureTest, APartOfItIsWhatTheWholeShowsThere)
 {
-    EXPECT_EQ(glow(u"0/1/0/1"_s), glow(u"-5/7/none/99"_s));
+    constexpr int shown = 150;
+    const GlowLook look{blue, side / 2.0, {30, -20}};
+    const QImage part = glowPicture(look, {shown, shown});
+    const QImage whole = glow(1);
+    const QPoint offset(side / 2 - 30, side / 2 + 20);
+    for (int y = 0; y < shown; y += 10) {
+        for (int x = 0; x < shown; x += 10)
+            EXPECT_NEAR(qAlpha(whole.pixel(QPoint(x, y) + offset)), qAlpha(part.pixel(x, y)), 1);
+    }
 }
 
 } // namespace
