@@ -3,7 +3,6 @@
 
 import QtQuick
 import QtQuick.Templates as T
-import QtQuick.Window
 import Keyvora
 
 // The main menu. Its texts are in the language in which it was installed.
@@ -13,7 +12,7 @@ Rectangle {
     required property AppMenu appMenu
 
     readonly property bool czech: root.appMenu.czech
-    readonly property bool isActive: appTitle.dropDown.visible || editTitle.dropDown.visible || windowTitle.dropDown.visible
+    readonly property bool isActive: appTitle.isOpen || editTitle.isOpen || windowTitle.isOpen
     // Where cutting, copying and pasting happens. An open menu has the focus itself, so the place before counts.
     property TextInput editedText: null
     readonly property Item focusItem: root.Window.activeFocusItem
@@ -22,9 +21,9 @@ Rectangle {
 
     // Opens one menu and closes the others.
     function present(title: AppMenuTitle): void {
-        appTitle.dropDown.close();
-        editTitle.dropDown.close();
-        windowTitle.dropDown.close();
+        appTitle.closeMenu();
+        editTitle.closeMenu();
+        windowTitle.closeMenu();
         title.openMenu();
     }
 
@@ -59,17 +58,20 @@ Rectangle {
         height: Theme.hairlineWidth
         color: Theme.hairline
     }
+    // Qt 6.4 gives the linter no way to know that a menu belongs to the component around it.
+    // qmllint disable unqualified
     Row {
         x: 12
         y: 2
 
         AppMenuTitle {
             id: appTitle
+            text: "Keyvora"
             isBarActive: root.isActive
             onRequested: root.present(appTitle)
 
             dropDown: AppMenuPopup {
-                title: "Keyvora"
+                title: appTitle.text
                 onNextRequested: root.present(editTitle)
                 onPreviousRequested: root.present(windowTitle)
 
@@ -93,11 +95,12 @@ Rectangle {
         }
         AppMenuTitle {
             id: editTitle
+            text: root.czech ? "Úpravy" : "Edit"
             isBarActive: root.isActive
             onRequested: root.present(editTitle)
 
             dropDown: AppMenuPopup {
-                title: root.czech ? "Úpravy" : "Edit"
+                title: editTitle.text
                 onNextRequested: root.present(windowTitle)
                 onPreviousRequested: root.present(appTitle)
 
@@ -129,11 +132,12 @@ Rectangle {
         }
         AppMenuTitle {
             id: windowTitle
+            text: root.czech ? "Okno" : "Window"
             isBarActive: root.isActive
             onRequested: root.present(windowTitle)
 
             dropDown: AppMenuPopup {
-                title: root.czech ? "Okno" : "Window"
+                title: windowTitle.text
                 onNextRequested: root.present(appTitle)
                 onPreviousRequested: root.present(editTitle)
 
@@ -150,4 +154,5 @@ Rectangle {
             }
         }
     }
+    // qmllint enable unqualified
 }

@@ -9,27 +9,40 @@ import Keyvora
 T.MenuItem {
     id: root
 
-    required property T.Menu dropDown
+    // An `AppMenuPopup`, made when it is first opened.
+    required property Component dropDown
 
     property bool isBarActive: false
+    readonly property bool isOpen: root.popup?.visible ?? false
+    readonly property AppMenuPopup popup: loader.item as AppMenuPopup
 
     // The person wants this menu open.
     signal requested
 
     function openMenu(): void {
-        root.dropDown.popup(root, 0, root.height);
+        loader.active = true;
+        root.popup.popup(root, 0, root.height);
+    }
+
+    function closeMenu(): void {
+        root.popup?.close();
     }
 
     implicitWidth: implicitContentWidth + 18
     implicitHeight: 24
     focusPolicy: Qt.NoFocus
-    text: root.dropDown.title
     Accessible.name: root.text
     Accessible.onPressAction: root.requested()
-    onPressed: root.dropDown.visible ? root.dropDown.close() : root.requested()
+    onPressed: root.isOpen ? root.closeMenu() : root.requested()
     onHoveredChanged: {
-        if (root.hovered && root.isBarActive && !root.dropDown.visible)
+        if (root.hovered && root.isBarActive && !root.isOpen)
             root.requested();
+    }
+
+    Loader {
+        id: loader
+        active: false
+        sourceComponent: root.dropDown
     }
 
     contentItem: PlainLabel {
@@ -39,6 +52,6 @@ T.MenuItem {
     }
     background: RoundedRectangle {
         radius: 6
-        color: root.hovered || root.dropDown.visible ? Theme.softAccent : "transparent"
+        color: root.hovered || root.isOpen ? Theme.softAccent : "transparent"
     }
 }

@@ -3,7 +3,6 @@
 
 import QtQuick
 import QtQuick.Templates as T
-import QtQuick.Window
 import Keyvora
 
 // What the main window shows: menu, sidebar, top bar, and the page of the selected section.
@@ -198,21 +197,29 @@ FocusScope {
                 sections: root.sections
                 onLeftDownwards: root.focusPage()
             }
-            UpdateBanner {
+            Loader {
                 id: banner
                 anchors.top: topBar.bottom
                 anchors.topMargin: 16
                 anchors.left: topBar.left
                 anchors.right: topBar.right
-                updates: root.updates
-                onSkipped: hadFocus => {
-                    if (hadFocus)
+                active: root.updates.isUpdateAvailable
+                Component.onCompleted: banner.setSource("UpdateBanner.qml", {
+                    "updates": root.updates
+                })
+            }
+            Connections {
+                target: banner.item
+                ignoreUnknownSignals: true
+
+                function onSkipping(hasFocus: bool): void {
+                    if (hasFocus)
                         root.focusPage();
                 }
             }
             LibraryView {
                 id: library
-                anchors.top: banner.visible ? banner.bottom : topBar.bottom
+                anchors.top: banner.active ? banner.bottom : topBar.bottom
                 anchors.topMargin: 18
                 anchors.bottom: parent.bottom
                 anchors.left: sidebar.right

@@ -24,7 +24,14 @@ GlassButton {
     trailingSymbol: root.isImporting ? "" : "keyboard_arrow_down"
     text: !root.isImporting ? idle.text : root.total > 0 ? root.countText(root.current) : Localized.czech ? "Importuji…" : "Importing…"
     Accessible.name: root.text
-    onClicked: menu.opened ? menu.close() : menu.open()
+    onClicked: {
+        menu.active = true;
+        const popup = menu.item as AppMenuPopup;
+        if (popup.opened)
+            popup.close();
+        else
+            popup.open();
+    }
 
     component LabelMetrics: TextMetrics {
         font.pointSize: Theme.points(11)
@@ -45,23 +52,31 @@ GlassButton {
 
         text: root.total > 0 ? root.countText(root.total) : ""
     }
-    AppMenuPopup {
+    // Made when it is first opened.
+    Loader {
         id: menu
+        active: false
 
-        y: root.height + 4
-        // The button itself closes it.
-        closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutsideParent
+        // Qt 6.4 gives the linter no way to know that the menu belongs to the component around it.
+        // qmllint disable unqualified
+        sourceComponent: AppMenuPopup {
+            parent: root
+            y: root.height + 4
+            // The button itself closes it.
+            closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutsideParent
 
-        AppMenuItem {
-            text: Localized.czech ? "Import z aktivní aplikace „" + root.appModel.activeApp + "“"
-                                  : "Import from Active App “" + root.appModel.activeApp + "”"
-            enabled: !root.isImporting
-            onTriggered: root.appModel.importFrontmostMenu()
+            AppMenuItem {
+                text: Localized.czech ? "Import z aktivní aplikace „" + root.appModel.activeApp + "“"
+                                      : "Import from Active App “" + root.appModel.activeApp + "”"
+                enabled: !root.isImporting
+                onTriggered: root.appModel.importFrontmostMenu()
+            }
+            AppMenuItem {
+                text: Localized.czech ? "Import ze všech spuštěných aplikací" : "Import from All Running Apps"
+                enabled: !root.isImporting
+                onTriggered: root.appModel.importAllRunningApps()
+            }
         }
-        AppMenuItem {
-            text: Localized.czech ? "Import ze všech spuštěných aplikací" : "Import from All Running Apps"
-            enabled: !root.isImporting
-            onTriggered: root.appModel.importAllRunningApps()
-        }
+        // qmllint enable unqualified
     }
 }

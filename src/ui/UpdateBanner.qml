@@ -10,17 +10,15 @@ FocusScope {
 
     required property UpdateChecker updates
 
-    // The person turned the version down; `hadFocus` tells whether that leaves nobody with the keyboard.
-    signal skipped(hadFocus: bool)
+    // The person turns the version down; `hasFocus` tells whether that leaves nobody with the keyboard.
+    signal skipping(hasFocus: bool)
 
     function skip(): void {
-        const hadFocus = root.activeFocus;
+        root.skipping(root.activeFocus);
         root.updates.skip();
-        root.skipped(hadFocus);
     }
 
     implicitHeight: Math.max(texts.height, buttons.height) + 20
-    visible: root.updates.isUpdateAvailable
     Accessible.role: Accessible.AlertMessage
     Accessible.name: title.text
     Accessible.description: line.text

@@ -79,10 +79,11 @@ KeyvoraTestCase {
         const search = named("Search");
         announce("1.10", page, "");
         const strip = banner();
-        compare(strip.x, topBar().x);
+        const corner = strip.mapToItem(library().parent, 0, 0);
+        compare(corner.x, topBar().x);
         compare(strip.width, topBar().width);
-        verify(strip.y >= topBar().y + topBar().height);
-        tryVerify(() => library().y >= strip.y + strip.height);
+        verify(corner.y >= topBar().y + topBar().height);
+        tryVerify(() => library().y >= corner.y + strip.height);
         compare(library().y + library().height, bottom);
         verify(search.activeFocus);
         mouseClick(button("Skip"));
