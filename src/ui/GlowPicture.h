@@ -15,8 +15,6 @@ struct GlowLook
     QColor color; ///< in the middle
     qreal radius = 1;
     QPointF middle; ///< in the picture, or beyond it
-
-    friend bool operator==(const GlowLook &, const GlowLook &) = default;
 };
 
 /// As much of the disc as a picture of that size shows.

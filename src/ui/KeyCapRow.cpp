@@ -177,7 +177,20 @@ QStringList KeyCapRow::labels() const
 
 void KeyCapRow::layOut()
 {
-    const Measures &measures = measuresOf(m_isCompact);
+    m_hasSmallCaps = m_isCompact;
+    qreal width = placeCaps();
+    if (!m_hasSmallCaps && width > m_availableWidth) {
+        m_hasSmallCaps = true;
+        width = placeCaps();
+    }
+    setImplicitSize(width, m_caps.isEmpty() ? 0 : measuresOf(m_hasSmallCaps).height);
+    update();
+    emit laidOut();
+}
+
+qreal KeyCapRow::placeCaps()
+{
+    const Measures &measures = measuresOf(m_hasSmallCaps);
     const QFontMetricsF metrics(fontOf(measures, m_weight));
     m_caps.clear();
     qreal x = 0;
@@ -191,9 +204,7 @@ void KeyCapRow::layOut()
         x += cap.width + measures.spacing;
         m_caps.append(cap);
     }
-    setImplicitSize(std::max(0.0, x - measures.spacing), m_caps.isEmpty() ? 0 : measures.height);
-    update();
-    emit laidOut();
+    return std::max(0.0, x - measures.spacing);
 }
 
 QSGNode *KeyCapRow::updatePaintNode(QSGNode *old, UpdatePaintNodeData * /*data*/)
@@ -202,9 +213,9 @@ QSGNode *KeyCapRow::updatePaintNode(QSGNode *old, UpdatePaintNodeData * /*data*/
         delete old;
         return nullptr;
     }
-    const Measures &measures = measuresOf(m_isCompact);
+    const Measures &measures = measuresOf(m_hasSmallCaps);
     Node *node = old != nullptr ? static_cast<Node *>(old) : new Node(window());
-    const Look look{m_isCompact,
+    const Look look{m_hasSmallCaps,
                     {m_fill, measures.radius, m_outlineWidth, m_outline},
                     fontOf(measures, m_weight),
                     m_ink,

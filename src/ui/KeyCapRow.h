@@ -7,6 +7,8 @@
 #include <QFont>
 #include <QQuickItem>
 
+#include <limits>
+
 namespace keyvora {
 
 /// The keys of a shortcut as caps in a row, and an arrow before each further step; lengths in units of the
@@ -16,7 +18,9 @@ class KeyCapRow : public QQuickItem
     Q_OBJECT
     Q_PROPERTY(QStringList keys MEMBER m_keys NOTIFY changed REQUIRED)
     Q_PROPERTY(bool compact MEMBER m_isCompact NOTIFY changed) ///< smaller caps
-    Q_PROPERTY(bool czech MEMBER m_isCzech NOTIFY changed)     ///< the language; some keys have words on them
+    /// Wider rows have smaller caps, too.
+    Q_PROPERTY(qreal availableWidth MEMBER m_availableWidth NOTIFY changed)
+    Q_PROPERTY(bool czech MEMBER m_isCzech NOTIFY changed) ///< the language; some keys have words on them
     Q_PROPERTY(QColor fill MEMBER m_fill NOTIFY changed)
     Q_PROPERTY(QColor outline MEMBER m_outline NOTIFY changed)
     Q_PROPERTY(qreal outlineWidth MEMBER m_outlineWidth NOTIFY changed)
@@ -49,9 +53,12 @@ protected:
 
 private:
     void layOut();
+    /// Places the caps; returns the row's width.
+    qreal placeCaps();
 
     QStringList m_keys;
     bool m_isCompact = false;
+    qreal m_availableWidth = std::numeric_limits<qreal>::infinity();
     bool m_isCzech = false;
     QColor m_fill = Qt::white;
     QColor m_outline = Qt::black;
@@ -60,6 +67,7 @@ private:
     QColor m_stepInk = Qt::black;
     int m_weight = QFont::Normal;
     QList<Cap> m_caps;
+    bool m_hasSmallCaps = false;
 };
 
 } // namespace keyvora

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 
 import QtQuick
-import QtQuick.Layouts
 import QtQuick.Templates as T
 import Keyvora
 
@@ -47,6 +46,9 @@ Item {
         // Grows by its measures: a transformation would leave seams in what the software renderer draws.
         property real growth: hover.hovered ? 1.012 : 1
 
+        readonly property int margin: 14
+        readonly property real contentWidth: card.width - 2 * card.margin
+
         anchors.centerIn: parent
         width: Math.round(root.width * card.growth)
         height: Math.round(root.height * card.growth)
@@ -62,96 +64,93 @@ Item {
             }
         }
 
-        ColumnLayout {
-            anchors.fill: parent
-            anchors.margins: 14
-            spacing: 12
+        Symbol {
+            id: symbol
+            x: card.margin
+            anchors.verticalCenter: header.verticalCenter
+            name: Localized.categorySymbol(root.category)
+            color: Theme.secondaryInk
+            size: 13
+        }
+        PlainLabel {
+            id: header
+            anchors.left: symbol.right
+            anchors.leftMargin: 6
+            anchors.right: star.left
+            anchors.rightMargin: 6
+            y: card.margin
+            height: 16
+            text: root.headerText
+            size: 11
+            color: Theme.secondaryInk
+        }
+        T.CheckBox {
+            id: star
 
-            RowLayout {
-                Layout.preferredHeight: 16
-                spacing: 6
+            // Larger to hit than to see.
+            anchors.right: parent.right
+            anchors.rightMargin: card.margin - 5
+            anchors.verticalCenter: header.verticalCenter
+            width: 24
+            height: 24
+            focusPolicy: Qt.NoFocus
+            checked: root.isFavorite
+            // The model decides what is a favourite; the star follows.
+            nextCheckState: () => star.checkState
+            Accessible.name: (Localized.czech ? "Oblíbená: " : "Favorite: ") + root.title
+            Accessible.onPressAction: star.clicked()
+            Accessible.onToggleAction: star.clicked()
+            onClicked: root.favoriteToggled(root.shortcutId)
 
+            contentItem: Item {
                 Symbol {
-                    name: Localized.categorySymbol(root.category)
-                    color: Theme.secondaryInk
-                    size: 13
-                }
-                PlainLabel {
-                    Layout.fillWidth: true
-                    text: root.headerText
-                    size: 11
-                    color: Theme.secondaryInk
-                }
-                T.CheckBox {
-                    id: star
-
-                    Layout.preferredWidth: 24
-                    Layout.preferredHeight: 24
-                    // Larger to hit than to see.
-                    Layout.rightMargin: -5
-                    Layout.topMargin: -4
-                    Layout.bottomMargin: -4
-                    focusPolicy: Qt.NoFocus
-                    checked: root.isFavorite
-                    // The model decides what is a favourite; the star follows.
-                    nextCheckState: () => star.checkState
-                    Accessible.name: (Localized.czech ? "Oblíbená: " : "Favorite: ") + root.title
-                    Accessible.onPressAction: star.clicked()
-                    Accessible.onToggleAction: star.clicked()
-                    onClicked: root.favoriteToggled(root.shortcutId)
-
-                    contentItem: Item {
-                        Symbol {
-                            anchors.centerIn: parent
-                            name: root.isFavorite ? "star-fill" : "star"
-                            color: root.isFavorite ? Theme.star : star.hovered ? Theme.ink : Theme.tertiaryInk
-                            opacity: star.down ? 0.7 : 1
-                        }
-                    }
+                    anchors.centerIn: parent
+                    name: root.isFavorite ? "star-fill" : "star"
+                    color: root.isFavorite ? Theme.star : star.hovered ? Theme.ink : Theme.tertiaryInk
+                    opacity: star.down ? 0.7 : 1
                 }
             }
-            ColumnLayout {
-                spacing: 2
+        }
+        PlainLabel {
+            id: title
+            anchors.top: header.bottom
+            anchors.topMargin: 12
+            x: card.margin
+            width: card.contentWidth
+            text: root.title
+            size: 14
+            font.weight: Theme.strongWeight
+        }
+        PlainLabel {
+            anchors.top: title.bottom
+            anchors.topMargin: 2
+            anchors.bottom: capsPlace.top
+            anchors.bottomMargin: 12
+            x: card.margin
+            width: card.contentWidth
+            text: root.detail
+            size: 11.5
+            color: Theme.secondaryInk
+            wrapMode: Text.Wrap
+            maximumLineCount: 2
+            verticalAlignment: Text.AlignTop
+        }
+        Item {
+            id: capsPlace
 
-                PlainLabel {
-                    Layout.fillWidth: true
-                    text: root.title
-                    size: 14
-                    font.weight: Theme.strongWeight
-                }
-                PlainLabel {
-                    Layout.fillWidth: true
-                    Layout.fillHeight: true
-                    text: root.detail
-                    size: 11.5
-                    color: Theme.secondaryInk
-                    wrapMode: Text.Wrap
-                    maximumLineCount: 2
-                    verticalAlignment: Text.AlignTop
-                }
-            }
-            Item {
-                id: capsPlace
+            anchors.bottom: parent.bottom
+            anchors.bottomMargin: card.margin
+            x: card.margin
+            width: card.contentWidth
+            height: 30
+            clip: caps.implicitWidth > width
 
-                Layout.fillWidth: true
-                Layout.preferredHeight: 30
-                clip: caps.compact
-
-                KeyCaps {
-                    id: caps
-
-                    // Long sequences get small caps rather than caps behind the card's edge.
-                    readonly property real fullWidth: fullSize.implicitWidth
-
-                    anchors.bottom: parent.bottom
-                    keys: root.keys // qmllint disable type
-                    compact: fullWidth > capsPlace.width
-                }
-                KeyCaps {
-                    id: fullSize
-                    visible: false
-                    keys: root.keys.length > 6 ? root.keys : [] // qmllint disable type
-                }
+            // Long sequences get small caps rather than caps behind the edge of the card at rest.
+            KeyCaps {
+                id: caps
+                anchors.bottom: parent.bottom
+                keys: root.keys // qmllint disable type
+                availableWidth: root.width - 2 * card.margin
             }
         }
         FocusRing {
