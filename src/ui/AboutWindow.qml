@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 
 import QtQuick
-import QtQuick.Window
 import Keyvora
 
 // Says what the program is and which version.

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 
 import QtQuick
-import QtQuick.Window
 import Keyvora
 
 // Today's three shortcuts, and whether they are learned.

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 
 import QtQuick
-import QtQuick.Window
 import Keyvora
 
 // The panel of the tray icon. Measured without positioners, which lay out only what is on the screen: the window needs

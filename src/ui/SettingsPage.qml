@@ -3,7 +3,6 @@
 
 import QtQuick
 import QtQuick.Templates as T
-import QtQuick.Window
 import Keyvora
 
 // All that can be set, from top to bottom, and the person's own shortcuts at the end, of which there may be

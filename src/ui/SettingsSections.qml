@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 
 import QtQuick
-import QtQuick.Window
 import Keyvora
 
 // The settings of a fixed number, and the heading of the person's own shortcuts, which follow below.

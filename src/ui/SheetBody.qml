@@ -3,7 +3,6 @@
 
 import QtQuick
 import QtQuick.Templates as T
-import QtQuick.Window
 
 // What a sheet shows. It scrolls where the window is too low for it.
 Item {

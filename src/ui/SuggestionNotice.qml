@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 
 import QtQuick
-import QtQuick.Window
 import Keyvora
 
 // Says for a while which shortcut would have done what was just done with the mouse. Stays while the pointer rests on
