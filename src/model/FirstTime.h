@@ -7,14 +7,18 @@
 
 namespace keyvora {
 
-/// Whether something happens for the first time on this account; from then on the stored flag says that it
-/// has.
-inline bool isFirstTime(Defaults &defaults, QLatin1StringView flag)
+/// Whether something happens for the first time on this account, as far as the stored flag tells.
+inline bool isFirstTime(const Defaults &defaults, QLatin1StringView flag)
 {
-    if (defaults.boolean(flag).value_or(false))
-        return false;
-    defaults.setBoolean(flag, true);
-    return true;
+    return !defaults.boolean(flag).value_or(false);
+}
+
+/// From now on it has happened. Writes to the disk, for which what the user waits for should not have to
+/// wait.
+inline void rememberFirstTime(Defaults &defaults, QLatin1StringView flag)
+{
+    if (isFirstTime(defaults, flag))
+        defaults.setBoolean(flag, true);
 }
 
 } // namespace keyvora

@@ -149,6 +149,9 @@ KeyvoraApp::KeyvoraApp(ApplicationInstance &instance, const QProcessEnvironment 
                           !environment.value(u"DESKTOP_STARTUP_ID"_s).isEmpty();
     connect(&instance, &ApplicationInstance::caughtUp, this, [this, isByHand] { finishLaunching(isByHand); });
     QTimer::singleShot(settlingTime, this, &KeyvoraApp::settle);
+    // The bus has not answered yet, and is not waited for in vain.
+    if (isFirstTime(m_defaults, DefaultsKeys::hasLaunchedBefore))
+        m_mainWindow.prepare();
 }
 
 KeyvoraApp::~KeyvoraApp() = default;
@@ -182,6 +185,7 @@ void KeyvoraApp::finishLaunching(bool isByHand)
     };
     if (launch.isFirstEver || m_statusItem->host() != StatusItem::Host::Unknown) {
         decide(m_statusItem->host());
+        rememberFirstTime(m_defaults, DefaultsKeys::hasLaunchedBefore);
         return;
     }
     // Only the first answer belongs to this launch; a tray that goes away later opens nothing.

@@ -14,6 +14,12 @@ MainWindow::MainWindow(AppMenu &menu, UserInterfaceLoader &userInterface)
 {
 }
 
+void MainWindow::prepare()
+{
+    if (UserInterface *userInterface = m_userInterface.get())
+        userInterface->prepareMainWindow();
+}
+
 void MainWindow::show(const QString &activationToken)
 {
     m_menu.install();

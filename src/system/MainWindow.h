@@ -16,6 +16,9 @@ class MainWindow
 public:
     MainWindow(AppMenu &menu, UserInterfaceLoader &userInterface);
 
+    /// Begins to make the window, which is to be shown soon.
+    void prepare();
+
     /// Brings the window to the front with a menu in the current language.
     void show(const QString &activationToken = {});
 

@@ -51,6 +51,10 @@ public:
 
     virtual ~UserInterface() = default;
 
+    /// Begins to make the main window, on other threads as far as that goes, so that there is less left to do
+    /// when it is shown.
+    virtual void prepareMainWindow() = 0;
+
     /// Shows the main window in front, with the focus; one that was closed a moment ago as it was left. The
     /// token is what the desktop gave for that, or empty.
     virtual void showMainWindow(const QString &activationToken) = 0;

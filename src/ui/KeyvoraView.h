@@ -16,8 +16,9 @@ class KeyvoraView : public QQuickView
     Q_OBJECT
 
 public:
-    /// The theme is the QML singleton, which outlives the view.
-    KeyvoraView(QQmlEngine *engine, QObject *theme);
+    /// The theme is the QML singleton, which outlives the view. It is needed before the view is shown.
+    explicit KeyvoraView(QQmlEngine *engine, QObject *theme = nullptr);
+    void setTheme(QObject *theme) { m_theme = theme; }
 
     using Activation = std::function<bool(const QWindow &window, const QString &activationToken)>;
 

@@ -93,40 +93,68 @@ QmlUserInterface::QmlUserInterface(const Context &context, std::chrono::millisec
     , m_trustController(context.grantTrust)
 {
     m_engine.addImportPath(u"qrc:/qt/qml"_s);
-    m_theme = themeOf(m_engine);
-    followAppearance();
-    QObject::connect(&m_context.appearance, &Appearance::preferencesChanged, m_theme,
+    QObject::connect(&m_context.appearance, &Appearance::preferencesChanged, &m_engine,
                      [this] { followAppearance(); });
     m_discardTimer.setSingleShot(true);
     m_discardTimer.setInterval(mainWindowKept);
-    QObject::connect(&m_discardTimer, &QTimer::timeout, m_theme, [this] { discardMainWindow(); });
+    QObject::connect(&m_discardTimer, &QTimer::timeout, &m_engine, [this] { discardMainWindow(); });
 }
 
 QmlUserInterface::~QmlUserInterface() = default;
 
+QObject *QmlUserInterface::theme()
+{
+    if (m_theme == nullptr) {
+        m_theme = themeOf(m_engine);
+        followAppearance();
+    }
+    return m_theme;
+}
+
 void QmlUserInterface::followAppearance()
 {
+    if (m_theme == nullptr)
+        return;
     const Appearance::Preferences preferences = m_context.appearance.preferences();
     m_theme->setProperty("dark", preferences.isDark);
     m_theme->setProperty("highContrast", preferences.highContrast);
     m_theme->setProperty("reducedMotion", preferences.reducedMotion);
 }
 
+void QmlUserInterface::prepareMainWindow()
+{
+    if (m_mainWindow)
+        return;
+    // Read on a thread of the engine's.
+    m_comingContent =
+        std::make_unique<QQmlComponent>(&m_engine, component(u"ContentView"_s), QQmlComponent::Asynchronous);
+    makeMainView();
+    m_mainWindow->create();
+}
+
 void QmlUserInterface::showMainWindow(const QString &activationToken)
 {
-    if (!m_mainWindow)
+    if (!m_mainWindow || m_mainWindow->rootObject() == nullptr)
         makeMainWindow();
     // Window managers place a window that comes back by where its frame was asked to be.
     if (!m_mainWindow->isVisible())
         m_mainWindowFrame->restore(initialWindowSize, leastSizeOf(*m_mainWindow->rootObject()));
     m_mainWindow->bringToFront(activationToken, m_context.activateWindow);
+    rememberFirstTime(m_context.defaults, DefaultsKeys::hasSeenOnboarding);
+}
+
+void QmlUserInterface::makeMainView()
+{
+    m_mainWindow = std::make_unique<KeyvoraView>(&m_engine);
+    m_mainWindow->setTitle(u"Keyvora"_s);
+    m_mainWindow->setIcon(applicationIcon());
 }
 
 void QmlUserInterface::makeMainWindow()
 {
-    m_mainWindow = std::make_unique<KeyvoraView>(&m_engine, m_theme);
-    m_mainWindow->setTitle(u"Keyvora"_s);
-    m_mainWindow->setIcon(applicationIcon());
+    if (!m_mainWindow)
+        makeMainView();
+    m_mainWindow->setTheme(theme());
     m_mainWindow->setInitialProperties({
         {u"appModel"_s, QVariant::fromValue(&m_context.model)},
         {u"sections"_s, QVariant::fromValue(&m_sections)},
@@ -141,6 +169,7 @@ void QmlUserInterface::makeMainWindow()
         {u"isFirstTime"_s, isFirstTime(m_context.defaults, DefaultsKeys::hasSeenOnboarding)},
     });
     m_mainWindow->setSource(component(u"ContentView"_s));
+    m_comingContent.reset();
     m_mainWindowFrame = std::make_unique<WindowFrame>(*m_mainWindow, m_context.windowFrames, "MainWindow"_L1);
     QObject::connect(m_mainWindow.get(), &QWindow::visibleChanged, &m_discardTimer, [this](bool isVisible) {
         if (isVisible)
@@ -171,7 +200,7 @@ void QmlUserInterface::togglePanel(QPoint position, const QString &activationTok
 
 void QmlUserInterface::makePanel()
 {
-    m_panel = std::make_unique<PanelWindow>(&m_engine, m_theme, m_context.compositor);
+    m_panel = std::make_unique<PanelWindow>(&m_engine, theme(), m_context.compositor);
     m_panel->setTitle(u"Keyvora"_s);
     m_panel->setInitialProperties({
         {u"appModel"_s, QVariant::fromValue(&m_context.model)},
@@ -203,7 +232,7 @@ bool QmlUserInterface::isOverlayVisible() const
 
 void QmlUserInterface::makeOverlay()
 {
-    m_overlay = std::make_unique<CornerWindow>(&m_engine, m_theme, m_context.compositor);
+    m_overlay = std::make_unique<CornerWindow>(&m_engine, theme(), m_context.compositor);
     m_overlay->setTitle(u"Keyvora"_s);
     m_overlay->setInitialProperties({
         {u"appModel"_s, QVariant::fromValue(&m_context.model)},
@@ -247,7 +276,7 @@ void QmlUserInterface::showSuggestion()
 
 void QmlUserInterface::makeNotice()
 {
-    m_notice = std::make_unique<CornerWindow>(&m_engine, m_theme, m_context.compositor);
+    m_notice = std::make_unique<CornerWindow>(&m_engine, theme(), m_context.compositor);
     m_notice->setTitle(u"Keyvora"_s);
     m_notice->setInitialProperties({
         {u"appModel"_s, QVariant::fromValue(&m_context.model)},

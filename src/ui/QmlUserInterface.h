@@ -16,6 +16,7 @@
 #include "ui/ToolkitTexts.h"
 #include "ui/TrustController.h"
 
+#include <QQmlComponent>
 #include <QQmlEngine>
 #include <QTimer>
 
@@ -39,6 +40,7 @@ public:
     explicit QmlUserInterface(const Context &context, std::chrono::milliseconds mainWindowKept = keptTime);
     ~QmlUserInterface() override;
 
+    void prepareMainWindow() override;
     void showMainWindow(const QString &activationToken) override;
     void togglePanel(QPoint position, const QString &activationToken) override;
     void showOverlay() override;
@@ -48,6 +50,10 @@ public:
     void askForTrust() override;
 
 private:
+    /// Made at the first call.
+    QObject *theme();
+    /// The window before it has its content.
+    void makeMainView();
     void makeMainWindow();
     void discardMainWindow();
     void makePanel();
@@ -71,6 +77,7 @@ private:
     OverlayController m_overlayController;
     NoticeController m_noticeController;
     TrustController m_trustController;
+    std::unique_ptr<QQmlComponent> m_comingContent; ///< of the main window that is prepared
     std::unique_ptr<KeyvoraView> m_mainWindow;
     std::unique_ptr<WindowFrame> m_mainWindowFrame;
     QTimer m_discardTimer;

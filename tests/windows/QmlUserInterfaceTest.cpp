@@ -165,6 +165,30 @@ private:
 
 } // namespace
 
+TEST_F(QmlUserInterfaceTest, APreparedMainWindowIsShownWhenItShouldBe)
+{
+    userInterface().prepareMainWindow();
+    userInterface().prepareMainWindow();
+    EXPECT_EQ(nullptr, mainWindow());
+    userInterface().showMainWindow({});
+    const QPointer<QQuickView> window = mainWindow();
+    ASSERT_NE(nullptr, window);
+    EXPECT_EQ(QQuickView::Ready, window->status());
+    EXPECT_TRUE(becomesTrue([&] { return window->isExposed(); }));
+    userInterface().prepareMainWindow();
+    EXPECT_EQ(window, mainWindow());
+}
+
+TEST_F(QmlUserInterfaceTest, APreparedMainWindowMayNeverBeShown)
+{
+    userInterface().prepareMainWindow();
+    userInterface().showOverlay();
+    EXPECT_NE(nullptr, overlay());
+    EXPECT_EQ(nullptr, mainWindow());
+    keepNoClosedWindow();
+    userInterface().prepareMainWindow();
+}
+
 TEST_F(QmlUserInterfaceTest, AClosedMainWindowComesBackAsItWas)
 {
     userInterface().showMainWindow({});

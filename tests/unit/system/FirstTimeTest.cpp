@@ -31,14 +31,15 @@ TEST(FirstTime, IsOnlyOnce)
 {
     Store store;
     EXPECT_TRUE(isFirstTime(store.defaults, flag));
-    EXPECT_FALSE(isFirstTime(store.defaults, flag));
+    EXPECT_TRUE(isFirstTime(store.defaults, flag));
+    rememberFirstTime(store.defaults, flag);
     EXPECT_FALSE(isFirstTime(store.defaults, flag));
 }
 
 TEST(FirstTime, IsRememberedByTheStore)
 {
     Store store;
-    EXPECT_TRUE(isFirstTime(store.defaults, flag));
+    rememberFirstTime(store.defaults, flag);
     Defaults later(store.path);
     EXPECT_EQ(later.boolean(flag), true);
     EXPECT_FALSE(isFirstTime(later, flag));
@@ -47,7 +48,7 @@ TEST(FirstTime, IsRememberedByTheStore)
 TEST(FirstTime, IsThereForEachFlag)
 {
     Store store;
-    EXPECT_TRUE(isFirstTime(store.defaults, flag));
+    rememberFirstTime(store.defaults, flag);
     EXPECT_TRUE(isFirstTime(store.defaults, otherFlag));
     EXPECT_FALSE(isFirstTime(store.defaults, flag));
 }
@@ -57,6 +58,7 @@ TEST(FirstTime, IsStillToComeWhereTheFlagSaysNo)
     Store store;
     store.defaults.setBoolean(flag, false);
     EXPECT_TRUE(isFirstTime(store.defaults, flag));
+    rememberFirstTime(store.defaults, flag);
     EXPECT_FALSE(isFirstTime(store.defaults, flag));
 }
 
@@ -65,6 +67,7 @@ TEST(FirstTime, IsStillToComeWhereTheFlagIsNone)
     Store store;
     store.defaults.setText(flag, u"true"_s);
     EXPECT_TRUE(isFirstTime(store.defaults, flag));
+    rememberFirstTime(store.defaults, flag);
     EXPECT_FALSE(isFirstTime(store.defaults, flag));
 }
 

@@ -16,6 +16,7 @@ public:
     {
     }
 
+    void prepareMainWindow() override {}
     void showMainWindow(const QString & /*activationToken*/) override { m_context.quit(); }
     void togglePanel(QPoint /*position*/, const QString & /*activationToken*/) override
     {
