@@ -82,7 +82,8 @@ private:
 [[noreturn]] void storeForEver(const QString &path, Report &report, int pipe)
 {
     Defaults defaults(path);
-    static_cast<void>(write(pipe, "x", 1));
+    if (write(pipe, "x", 1) != 1)
+        _exit(1);
     for (qsizetype count = report.done;; report.done = count) {
         count = nextLineCount(count);
         report.begun = count;
