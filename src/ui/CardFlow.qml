@@ -82,36 +82,17 @@ FocusScope {
 
         // Qt 6.4 gives the linter no way to know that a delegate belongs to the component around it.
         // qmllint disable unqualified
-        delegate: FocusScope {
-            id: cell
+        delegate: ShortcutCard {
+            id: card
 
             required property int index
-            required property string shortcutId
-            required property string title
-            required property string detail
-            required property string headerText
-            required property int category
-            required property list<string> keys
-            required property bool isFavorite
 
-            x: cell.index % root.columns * root.cellWidth
-            y: Math.floor(cell.index / root.columns) * (root.cardHeight + root.spacing)
+            x: card.index % root.columns * root.cellWidth
+            y: Math.floor(card.index / root.columns) * (root.cardHeight + root.spacing)
             width: root.cellWidth - root.spacing
             height: root.cardHeight
-
-            ShortcutCard {
-                anchors.fill: parent
-                focus: true
-                shortcutId: cell.shortcutId
-                title: cell.title
-                detail: cell.detail
-                headerText: cell.headerText
-                category: cell.category
-                keys: cell.keys
-                isFavorite: cell.isFavorite
-                onPressed: cell.focus = true
-                onFavoriteToggled: shortcutId => root.appModel.toggleFavorite(shortcutId)
-            }
+            onPressed: card.focus = true
+            onFavoriteToggled: shortcutId => root.appModel.toggleFavorite(shortcutId)
         }
         // qmllint enable unqualified
     }

@@ -82,35 +82,13 @@ GridView {
 
     // Qt 6.4 gives the linter no way to know that a delegate belongs to the component around it.
     // qmllint disable unqualified
-    delegate: FocusScope {
-        id: cell
-
+    delegate: ShortcutCard {
         required property int index
-        required property string shortcutId
-        required property string title
-        required property string detail
-        required property string headerText
-        required property int category
-        required property list<string> keys
-        required property bool isFavorite
 
-        width: root.cellWidth
-        height: root.cellHeight
-
-        ShortcutCard {
-            width: root.cellWidth - root.spacing
-            height: root.cardHeight
-            focus: true
-            shortcutId: cell.shortcutId
-            title: cell.title
-            detail: cell.detail
-            headerText: cell.headerText
-            category: cell.category
-            keys: cell.keys
-            isFavorite: cell.isFavorite
-            onPressed: root.currentIndex = cell.index
-            onFavoriteToggled: shortcutId => root.appModel.toggleFavorite(shortcutId)
-        }
+        width: root.cellWidth - root.spacing
+        height: root.cardHeight
+        onPressed: root.currentIndex = index
+        onFavoriteToggled: shortcutId => root.appModel.toggleFavorite(shortcutId)
     }
     // qmllint enable unqualified
 }
