@@ -4,6 +4,7 @@
 #include "contract/PlatformPrinters.h"
 #include "contract/Waiting.h"
 #include "contract/X11Desktop.h"
+#include "platform/linux/X11Connection.h"
 #include "platform/linux/X11Workspace.h"
 
 #include <gtest/gtest.h>
