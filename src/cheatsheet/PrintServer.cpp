@@ -3,11 +3,11 @@
 
 #include "cheatsheet/PrintServer.h"
 
+#include "platform/InBackground.h"
+
 #include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QLibrary>
-#include <QPromise>
-#include <QThreadPool>
 
 #include <atomic>
 #include <cups/cups.h>
@@ -94,14 +94,7 @@ QFuture<bool> isPrintServerResponsive()
     static const auto ending =
         QObject::connect(qApp, &QCoreApplication::aboutToQuit, [] { std::atomic_ref(endingFlag).store(1); });
     Q_UNUSED(ending)
-    const auto promise = std::make_shared<QPromise<bool>>();
-    QFuture<bool> future = promise->future();
-    promise->start();
-    QThreadPool::globalInstance()->start([promise] {
-        promise->addResult(answersInTime());
-        promise->finish();
-    });
-    return future;
+    return inBackground(*QThreadPool::globalInstance(), &answersInTime);
 }
 
 } // namespace keyvora

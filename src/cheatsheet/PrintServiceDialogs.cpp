@@ -11,13 +11,13 @@
 #include "dialogs/DialogOverWindow.h"
 #include "model/Localization.h"
 #include "platform/AtomicFile.h"
+#include "platform/InBackground.h"
 #include "platform/WhenFinished.h"
 
 #include <QFileDialog>
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrinter>
-#include <QThreadPool>
 #include <QWindow>
 
 #include <memory>
@@ -86,7 +86,8 @@ void PrintService::exportPDF(CheatSheetSize size, const QList<Shortcut> &shortcu
     dialog->selectFile(u"Keyvora-%1.pdf"_s.arg(rawValue(size)));
     QObject::connect(dialog, &QFileDialog::fileSelected, dialog, [bytes = *document](const QString &path) {
         // Disks can be slow, those behind a network very.
-        QThreadPool::globalInstance()->start([bytes, path] { std::ignore = replaceFile(path, bytes); });
+        startInBackground(*QThreadPool::globalInstance(),
+                          [bytes, path] { std::ignore = replaceFile(path, bytes); });
     });
     showOverWindow(*dialog, window);
 }

@@ -7,12 +7,11 @@
 #include "dialogs/DialogOverWindow.h"
 #include "model/AppModel.h"
 #include "model/Localization.h"
+#include "platform/InBackground.h"
 #include "platform/WhenFinished.h"
 
 #include <QFileDialog>
 #include <QPointer>
-#include <QPromise>
-#include <QThreadPool>
 
 #include <utility>
 #include <vector>
@@ -22,21 +21,6 @@ namespace keyvora {
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-/// What the job returns, from a thread of its own: disks can be slow, those behind a network very.
-template <typename Job>
-auto inBackground(Job job)
-{
-    using Result = std::invoke_result_t<Job>;
-    const auto promise = std::make_shared<QPromise<Result>>();
-    QFuture<Result> future = promise->future();
-    promise->start();
-    QThreadPool::globalInstance()->start([promise, job = std::move(job)] {
-        promise->addResult(job());
-        promise->finish();
-    });
-    return future;
-}
 
 /// A dialog for one JSON file, which goes with the model. It is to be shown by the caller.
 QFileDialog *makeDialog(const QString &title, const AppModel &model)
@@ -95,9 +79,9 @@ void BackupService::exportBackup(AppModel &model, QWindow *window, Done done) co
         const auto write = [path, backup = waiting->model()->backup()] {
             return writeBackupFile(path, backup);
         };
-        whenFinished(inBackground(write), waiting->model(), [waiting](const QFuture<bool> &isWritten) {
-            waiting->tell(resultOr(isWritten, false));
-        });
+        whenFinished(
+            inBackground(*QThreadPool::globalInstance(), write), waiting->model(),
+            [waiting](const QFuture<bool> &isWritten) { waiting->tell(resultOr(isWritten, false)); });
     });
     showOverWindow(*dialog, window);
 }
@@ -122,10 +106,11 @@ void BackupService::importFile(AppModel &model, QWindow *window, Done done) cons
         const auto read = [path] {
             return readBackupFile(path);
         };
-        whenFinished(inBackground(read), waiting->model(), [waiting](const QFuture<Read> &reading) {
-            const Read backup = resultOr(reading, Read());
-            waiting->tell(backup && waiting->model()->mergeBackup(*backup));
-        });
+        whenFinished(inBackground(*QThreadPool::globalInstance(), read), waiting->model(),
+                     [waiting](const QFuture<Read> &reading) {
+                         const Read backup = resultOr(reading, Read());
+                         waiting->tell(backup && waiting->model()->mergeBackup(*backup));
+                     });
     });
     showOverWindow(*dialog, window);
 }

@@ -5,13 +5,13 @@
 
 #include "model/Localization.h"
 #include "platform/Accessibility.h"
+#include "platform/InBackground.h"
 #include "platform/MenuTree.h"
 #include "platform/WhenFinished.h"
 
 #include <QCoreApplication>
 #include <QPromise>
 #include <QTextBoundaryFinder>
-#include <QThreadPool>
 
 #include <memory>
 #include <optional>
@@ -85,12 +85,13 @@ QFuture<MenuImport> MenuShortcutImporter::importFromApplication(qint32 pid, cons
         const AppLanguage language = Localization::shared().language();
         // A menu may have thousands of entries. (Not as a continuation: Qt 6.4 runs one twice that is
         // attached while the other thread is still finishing the future.)
-        QThreadPool::globalInstance()->start([appName, language, finish, tree = menuBar.result()] {
-            if (tree)
-                finish(collect(*tree, appName, language));
-            else
-                finish(MenuImportError::menu);
-        });
+        startInBackground(*QThreadPool::globalInstance(),
+                          [appName, language, finish, tree = menuBar.result()] {
+                              if (tree)
+                                  finish(collect(*tree, appName, language));
+                              else
+                                  finish(MenuImportError::menu);
+                          });
     };
     whenFinished(m_accessibility.isTrusted(), this,
                  [this, pid, finish, convert](const QFuture<bool> &isTrusted) {

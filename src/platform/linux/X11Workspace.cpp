@@ -3,6 +3,7 @@
 
 #include "platform/linux/X11Workspace.h"
 
+#include "platform/InBackground.h"
 #include "platform/linux/X11Connection.h"
 
 #include <QPointer>
@@ -212,7 +213,7 @@ void X11Workspace::tell(Survey &survey, const Names &names)
 void X11Workspace::findNames(const QList<WindowIdentity> &identities, const NamesHandler &handler)
 {
     // The destructor waits for the search, so that `this` and the names outlive it.
-    m_nameSearch.start([this, identities, handler] {
+    startInBackground(m_nameSearch, [this, identities, handler] {
         Names names;
         for (const WindowIdentity &identity : identities) {
             const QString name = m_names.find(identity);

@@ -3,6 +3,7 @@
 
 #include "platform/linux/atspi/AtspiAccessibility.h"
 
+#include "platform/InBackground.h"
 #include "platform/linux/atspi/AtspiApplication.h"
 #include "platform/linux/atspi/AtspiBus.h"
 #include "platform/linux/atspi/GtkMenus.h"
@@ -11,7 +12,6 @@
 #include "platform/linux/atspi/MenuTreeReader.h"
 
 #include <QProcess>
-#include <QPromise>
 
 #include <algorithm>
 #include <memory>
@@ -58,28 +58,16 @@ AtspiAccessibility::~AtspiAccessibility()
     m_hitTests.waitForDone();
 }
 
-template <typename Answer>
-QFuture<Answer> AtspiAccessibility::ask(QThreadPool &pool, std::function<Answer()> question)
-{
-    const auto promise = std::make_shared<QPromise<Answer>>();
-    promise->start();
-    QFuture<Answer> future = promise->future();
-    // The destructor waits for the pools, so that the question outlives nothing that it uses.
-    pool.start([promise, question = std::move(question)] {
-        promise->addResult(question());
-        promise->finish();
-    });
-    return future;
-}
+// The destructor waits for the pools, so that no question outlives what it uses.
 
 QFuture<bool> AtspiAccessibility::isTrusted()
 {
-    return ask<bool>(m_trust, [this] { return accessibilityBus(m_patience.trust) != nullptr; });
+    return inBackground(m_trust, [this] { return accessibilityBus(m_patience.trust) != nullptr; });
 }
 
 QFuture<bool> AtspiAccessibility::grantTrust()
 {
-    return ask<bool>(m_trust, [this] {
+    return inBackground(m_trust, [this] {
         const auto bus = session(m_patience.trust);
         if (!bus || !enableAccessibility(*bus))
             return false;
@@ -90,12 +78,12 @@ QFuture<bool> AtspiAccessibility::grantTrust()
 
 QFuture<std::optional<MenuTree>> AtspiAccessibility::menuBar(qint32 pid)
 {
-    return ask<std::optional<MenuTree>>(m_readers, [this, pid] { return readMenuBar(pid); });
+    return inBackground(m_readers, [this, pid] { return readMenuBar(pid); });
 }
 
 QFuture<QString> AtspiAccessibility::menuItemTitleAt(qint32 pid, QPoint position)
 {
-    return ask<QString>(m_hitTests, [this, pid, position] { return readTitleAt(pid, position); });
+    return inBackground(m_hitTests, [this, pid, position] { return readTitleAt(pid, position); });
 }
 
 std::unique_ptr<BusPipeline> AtspiAccessibility::session(BusPatience patience) const

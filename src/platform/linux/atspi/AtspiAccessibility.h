@@ -12,7 +12,6 @@
 #include <QMutex>
 #include <QThreadPool>
 
-#include <functional>
 #include <memory>
 #include <vector>
 
@@ -45,8 +44,6 @@ public:
     [[nodiscard]] QFuture<QString> menuItemTitleAt(qint32 pid, QPoint position) override;
 
 private:
-    template <typename Answer>
-    QFuture<Answer> ask(QThreadPool &pool, std::function<Answer()> question);
     std::unique_ptr<BusPipeline> session(BusPatience patience) const;
     /// Null where accessibility is off.
     std::unique_ptr<BusPipeline> accessibilityBus(BusPatience patience) const;
