@@ -13,11 +13,26 @@ T.Menu {
     signal nextRequested
     signal previousRequested
 
+    function highlightFirst(): void {
+        for (let i = 0; i < root.count; ++i) {
+            const item = root.itemAt(i) as AppMenuItem;
+            if (item !== null && item.enabled) {
+                root.currentIndex = i;
+                return;
+            }
+        }
+    }
+
     implicitWidth: Math.min(420, Math.max(180, contentItem.implicitWidth + leftPadding + rightPadding))
     implicitHeight: contentItem.implicitHeight + topPadding + bottomPadding
     padding: 5
     margins: 4
     focus: true
+    // Who opens a menu with the keyboard goes on with it.
+    onOpened: {
+        if (Theme.showsFocus)
+            root.highlightFirst();
+    }
 
     contentItem: ListView {
         implicitWidth: {

@@ -62,7 +62,8 @@ bool KeyvoraView::event(QEvent *event)
 {
     if (event->type() == QEvent::MouseButtonPress) {
         m_theme->setProperty("showsFocus", false);
-    } else if (event->type() == QEvent::KeyPress) {
+    } else if (event->type() == QEvent::ShortcutOverride) {
+        // Comes before every press of a key, also of one that is a shortcut of the window.
         switch (static_cast<QKeyEvent *>(event)->key()) {
         case Qt::Key_Tab:
         case Qt::Key_Backtab:

@@ -143,6 +143,16 @@ class CommandsTest(MenuTestCase):
 
         self.wait_for(about_window, "there is a window about the program")
 
+    def test_the_keyboard_alone_chooses_a_command(self):
+        self.launch()
+        window = self.window(self.program)
+        self.keys("F10")
+        self.wait_for(self.items, "a menu is open")
+        self.keys("Left")
+        self.wait_for(lambda: self.items() == ENGLISH_MENUS["Window"], "the last menu is open")
+        self.keys("Return")
+        self.wait_for(lambda: not windows.is_shown(window), "the window is closed")
+
     def test_quit_ends_the_program(self):
         self.launch()
         self.choose("Keyvora", "Quit Keyvora")

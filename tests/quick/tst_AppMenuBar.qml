@@ -74,6 +74,42 @@ KeyvoraTestCase {
         tryVerify(() => openItems().length === 0);
     }
 
+    function highlighted(): list<string> {
+        return findAll(item.Window.window.contentItem, candidate => candidate instanceof AppMenuItem && candidate.highlighted).map(entry => entry.text);
+    }
+
+    function test_aMenuOpenedWithTheKeyboardBeginsAtItsFirstCommand(): void {
+        Theme.showsFocus = true;
+        aboutSpy.target = item;
+        aboutSpy.clear();
+        keyClick(Qt.Key_F10);
+        tryVerify(() => highlighted()[0] === "About Keyvora");
+        // The edit menu has nothing to do while no text is edited.
+        keyClick(Qt.Key_Right);
+        tryVerify(() => openItems().length === 4);
+        compare(highlighted(), []);
+        keyClick(Qt.Key_Right);
+        tryVerify(() => highlighted()[0] === "Close");
+        keyClick(Qt.Key_Right);
+        tryVerify(() => highlighted()[0] === "About Keyvora");
+        keyClick(Qt.Key_Return);
+        compare(aboutSpy.count, 1);
+        tryVerify(() => openItems().length === 0);
+    }
+
+    function test_aMenuOpenedWithTheMouseBeginsNowhere(): void {
+        Theme.showsFocus = false;
+        mouseClick(named("Window"));
+        tryVerify(() => openItems().length === 2);
+        compare(highlighted(), []);
+        keyClick(Qt.Key_Escape);
+        tryVerify(() => openItems().length === 0);
+    }
+
+    SignalSpy {
+        id: aboutSpy
+        signalName: "aboutRequested"
+    }
     SignalSpy {
         id: quitSpy
         target: Fixture.appMenu
