@@ -14,6 +14,14 @@
 
 namespace keyvora {
 
+/// Orders what is done before a job is handed over before the job. The pool does so behind a lock of its own,
+/// but those who look for races cannot see into the toolkit; this they see.
+inline std::atomic<unsigned> &jobsHandedOver()
+{
+    static std::atomic<unsigned> count;
+    return count;
+}
+
 /// A job for a pool of threads, with what it needs.
 template <typename Job>
 class BackgroundJob : public QRunnable
@@ -22,27 +30,25 @@ public:
     explicit BackgroundJob(Job job)
         : m_job(std::move(job))
     {
-        m_isHandedOver.store(true, std::memory_order_release);
     }
 
     void run() override
     {
-        // The pool hands jobs over behind a lock of its own. Those who look for races cannot see into the
-        // toolkit; this they see.
-        if (m_isHandedOver.load(std::memory_order_acquire))
-            m_job();
+        jobsHandedOver().load(std::memory_order_acquire);
+        m_job();
     }
 
 private:
     Job m_job;
-    std::atomic<bool> m_isHandedOver;
 };
 
 /// Has a thread of the pool do the job; returns at once.
 template <typename Job>
 void startInBackground(QThreadPool &pool, Job job)
 {
-    pool.start(new BackgroundJob<Job>(std::move(job)));
+    auto *backgroundJob = new BackgroundJob<Job>(std::move(job));
+    jobsHandedOver().fetch_add(1, std::memory_order_release);
+    pool.start(backgroundJob);
 }
 
 /// The same for a job whose result is wanted.
