@@ -39,7 +39,7 @@ AppSheet {
             Layout.alignment: Qt.AlignRight
             Layout.topMargin: 6
             focus: true
-            text: "OK"
+            label: "OK"
             onClicked: root.close()
         }
     }

@@ -76,7 +76,7 @@ Rectangle {
                 onPreviousRequested: root.present(windowTitle)
 
                 AppMenuItem {
-                    text: root.czech ? "O aplikaci Keyvora" : "About Keyvora"
+                    label: root.czech ? "O aplikaci Keyvora" : "About Keyvora"
                     onTriggered: root.aboutRequested()
                 }
                 T.MenuSeparator {
@@ -87,7 +87,7 @@ Rectangle {
                     }
                 }
                 AppMenuItem {
-                    text: root.czech ? "Ukončit Keyvora" : "Quit Keyvora"
+                    label: root.czech ? "Ukončit Keyvora" : "Quit Keyvora"
                     keysText: "Ctrl+Q"
                     onTriggered: root.appMenu.quitRequested()
                 }
@@ -105,25 +105,25 @@ Rectangle {
                 onPreviousRequested: root.present(appTitle)
 
                 AppMenuItem {
-                    text: root.czech ? "Vyjmout" : "Cut"
+                    label: root.czech ? "Vyjmout" : "Cut"
                     keysText: "Ctrl+X"
                     enabled: root.editedText !== null
                     onTriggered: root.editedText.cut()
                 }
                 AppMenuItem {
-                    text: root.czech ? "Kopírovat" : "Copy"
+                    label: root.czech ? "Kopírovat" : "Copy"
                     keysText: "Ctrl+C"
                     enabled: root.editedText !== null
                     onTriggered: root.editedText.copy()
                 }
                 AppMenuItem {
-                    text: root.czech ? "Vložit" : "Paste"
+                    label: root.czech ? "Vložit" : "Paste"
                     keysText: "Ctrl+V"
                     enabled: root.editedText !== null
                     onTriggered: root.editedText.paste()
                 }
                 AppMenuItem {
-                    text: root.czech ? "Vybrat vše" : "Select All"
+                    label: root.czech ? "Vybrat vše" : "Select All"
                     keysText: "Ctrl+A"
                     enabled: root.editedText !== null
                     onTriggered: root.editedText.selectAll()
@@ -142,12 +142,12 @@ Rectangle {
                 onPreviousRequested: root.present(editTitle)
 
                 AppMenuItem {
-                    text: root.czech ? "Zavřít" : "Close"
+                    label: root.czech ? "Zavřít" : "Close"
                     keysText: "Ctrl+W"
                     onTriggered: root.Window.window.close()
                 }
                 AppMenuItem {
-                    text: root.czech ? "Minimalizovat" : "Minimize"
+                    label: root.czech ? "Minimalizovat" : "Minimize"
                     keysText: "Ctrl+M"
                     onTriggered: root.Window.window.showMinimized()
                 }

@@ -9,6 +9,8 @@ import Keyvora
 T.MenuItem {
     id: root
 
+    // Not `text`: see `PressButton`.
+    required property string label
     // The keys as this keyboard has them, "Ctrl+Q".
     property string keysText: ""
 
@@ -16,7 +18,7 @@ T.MenuItem {
     implicitHeight: 26
     width: ListView.view ? ListView.view.width : implicitWidth
     hoverEnabled: true
-    Accessible.name: root.text
+    Accessible.name: root.label
     Accessible.onPressAction: root.triggered()
 
     contentItem: Item {
@@ -27,7 +29,7 @@ T.MenuItem {
             x: 12
             width: parent.width - 24
             height: parent.height
-            text: root.text
+            text: root.label
             size: 12
             color: root.highlighted && root.enabled ? Theme.accentInk : Theme.ink
         }

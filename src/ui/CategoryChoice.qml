@@ -72,17 +72,18 @@ T.ComboBox {
         id: entry
 
         required property int index
+        // Not `text`: see `PressButton`.
+        readonly property string label: Localized.categoryName(entry.index, Localized.czech)
 
         width: ListView.view.width
         height: 28
-        text: Localized.categoryName(entry.index, Localized.czech)
         highlighted: root.highlightedIndex === entry.index
-        Accessible.name: entry.text
+        Accessible.name: entry.label
         Accessible.onPressAction: root.choose(entry.index)
 
         contentItem: PlainLabel {
             x: 10
-            text: entry.text
+            text: entry.label
             size: 12
             leftPadding: 10
             color: entry.highlighted ? Theme.accentInk : Theme.ink

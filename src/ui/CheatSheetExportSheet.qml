@@ -60,21 +60,21 @@ AppSheet {
             spacing: 10
 
             GlassButton {
-                text: Localized.czech ? "Zrušit" : "Cancel"
+                label: Localized.czech ? "Zrušit" : "Cancel"
                 onClicked: root.close()
             }
             Item {
                 Layout.fillWidth: true
             }
             GlassButton {
-                text: Localized.czech ? "Vytisknout…" : "Print…"
+                label: Localized.czech ? "Vytisknout…" : "Print…"
                 onClicked: {
                     root.sheets.print(root.format, root.parent.Window.window);
                     root.close();
                 }
             }
             ProminentButton {
-                text: Localized.czech ? "Uložit PDF…" : "Save PDF…"
+                label: Localized.czech ? "Uložit PDF…" : "Save PDF…"
                 onClicked: {
                     root.sheets.exportPDF(root.format, root.parent.Window.window);
                     root.close();

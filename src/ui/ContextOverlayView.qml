@@ -129,7 +129,7 @@ FloatingCard {
         x: root.padding
         width: header.width
         focusPolicy: Qt.NoFocus
-        text: Localized.czech ? "Otevřít celou knihovnu" : "Open Full Library"
+        label: Localized.czech ? "Otevřít celou knihovnu" : "Open Full Library"
         onClicked: root.controller.openLibrary()
     }
 }

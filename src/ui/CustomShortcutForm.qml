@@ -105,11 +105,11 @@ FocusScope {
             spacing: 10
 
             GlassButton {
-                text: Localized.czech ? "Zrušit" : "Cancel"
+                label: Localized.czech ? "Zrušit" : "Cancel"
                 onClicked: root.done()
             }
             ProminentButton {
-                text: Localized.czech ? "Uložit" : "Save"
+                label: Localized.czech ? "Uložit" : "Save"
                 enabled: root.draft.canSave
                 onClicked: root.save()
             }

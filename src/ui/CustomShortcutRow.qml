@@ -55,7 +55,7 @@ FocusScope {
         // Rows come into being in any order, and there may be thousands: the list says where the keyboard goes.
         focusPolicy: Qt.ClickFocus
         symbol: "delete"
-        text: Localized.czech ? "Smazat „" + root.title + "“" : "Delete “" + root.title + "”"
+        label: Localized.czech ? "Smazat „" + root.title + "“" : "Delete “" + root.title + "”"
         onClicked: root.deleted()
         Keys.onDeletePressed: event => remove.press(event)
     }

@@ -83,7 +83,7 @@ ScrollPage {
             id: complete
             y: 8
             visible: !root.lesson.isComplete
-            text: Localized.czech ? "Trojici umím" : "I've got this trio"
+            label: Localized.czech ? "Trojici umím" : "I've got this trio"
             onClicked: root.lesson.complete()
         }
         Row {

@@ -2,11 +2,10 @@
 // SPDX-License-Identifier: MIT
 
 import QtQuick
-import QtQuick.Templates as T
 import Keyvora
 
 // A key of the drawn keyboard.
-T.Button {
+PressButton {
     id: root
 
     required property string token
@@ -18,7 +17,7 @@ T.Button {
 
     // Arrow keys lead here, not Tab.
     focusPolicy: Qt.ClickFocus
-    text: Localized.keyCapLabel(root.token, Localized.czech)
+    label: Localized.keyCapLabel(root.token, Localized.czech)
     Accessible.name: {
         let name = Localized.spokenKeys([root.token], Localized.czech);
         if (Localized.czech)
@@ -31,12 +30,9 @@ T.Button {
     }
     Accessible.selectable: true
     Accessible.selected: root.selected
-    Accessible.onPressAction: root.clicked()
-    Keys.onReturnPressed: root.clicked()
-    Keys.onEnterPressed: root.clicked()
 
     contentItem: PlainLabel {
-        text: root.text
+        text: root.label
         color: root.ink
         opacity: root.down ? 0.7 : 1
         font.weight: root.isInPlay || !Theme.highContrast ? Theme.strongWeight : Theme.regularWeight

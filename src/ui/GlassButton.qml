@@ -2,11 +2,10 @@
 // SPDX-License-Identifier: MIT
 
 import QtQuick
-import QtQuick.Templates as T
 import Keyvora
 
 // A quiet button on a translucent surface.
-T.Button {
+PressButton {
     id: root
 
     property string symbol: ""
@@ -18,9 +17,6 @@ T.Button {
     rightPadding: 13
     spacing: 8
     opacity: !root.enabled ? 0.5 : root.down ? 0.7 : 1
-    Accessible.onPressAction: root.clicked()
-    Keys.onReturnPressed: root.clicked()
-    Keys.onEnterPressed: root.clicked()
 
     contentItem: Row {
         spacing: root.spacing
@@ -32,7 +28,7 @@ T.Button {
         }
         PlainLabel {
             height: parent.height
-            text: root.text
+            text: root.label
             size: 11
             font.weight: Theme.mediumWeight
         }

@@ -22,8 +22,7 @@ GlassButton {
     implicitWidth: Math.max(implicitContentWidth, root.isImporting ? Math.max(idle.contentWidth, counted.contentWidth) : 0) + leftPadding + rightPadding
     symbol: root.isImporting ? "hourglass_empty" : "download"
     trailingSymbol: root.isImporting ? "" : "keyboard_arrow_down"
-    text: !root.isImporting ? idle.text : root.total > 0 ? root.countText(root.current) : Localized.czech ? "Importuji…" : "Importing…"
-    Accessible.name: root.text
+    label: !root.isImporting ? idle.text : root.total > 0 ? root.countText(root.current) : Localized.czech ? "Importuji…" : "Importing…"
     onClicked: {
         menu.active = true;
         const popup = menu.item as AppMenuPopup;
@@ -66,13 +65,13 @@ GlassButton {
             closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutsideParent
 
             AppMenuItem {
-                text: Localized.czech ? "Import z aktivní aplikace „" + root.appModel.activeApp + "“"
+                label: Localized.czech ? "Import z aktivní aplikace „" + root.appModel.activeApp + "“"
                                       : "Import from Active App “" + root.appModel.activeApp + "”"
                 enabled: !root.isImporting
                 onTriggered: root.appModel.importFrontmostMenu()
             }
             AppMenuItem {
-                text: Localized.czech ? "Import ze všech spuštěných aplikací" : "Import from All Running Apps"
+                label: Localized.czech ? "Import ze všech spuštěných aplikací" : "Import from All Running Apps"
                 enabled: !root.isImporting
                 onTriggered: root.appModel.importAllRunningApps()
             }

@@ -42,7 +42,7 @@ FormField {
             visible: !field.visible
             anchors.right: parent.right
             symbol: "keyboard"
-            text: Localized.czech ? "Stisknout klávesy" : "Press keys"
+            label: Localized.czech ? "Stisknout klávesy" : "Press keys"
             onClicked: root.beginPressing()
         }
         KeyCaptureView {

@@ -144,7 +144,7 @@ FocusScope {
         x: root.padding - leftPadding
         width: Math.min(implicitWidth, header.width + leftPadding + rightPadding)
         symbol: "web_asset"
-        text: (Localized.czech ? "Zobrazit overlay pro " : "Show overlay for ") + root.appModel.activeApp
+        label: (Localized.czech ? "Zobrazit overlay pro " : "Show overlay for ") + root.appModel.activeApp
         weight: Theme.mediumWeight
         onClicked: root.controller.toggleOverlay()
     }
@@ -170,7 +170,7 @@ FocusScope {
         x: root.padding
         focus: true
         symbol: "grid_view"
-        text: Localized.czech ? "Otevřít knihovnu" : "Open Library"
+        label: Localized.czech ? "Otevřít knihovnu" : "Open Library"
         weight: Theme.mediumWeight
         onClicked: root.controller.openLibrary()
     }
@@ -178,7 +178,7 @@ FocusScope {
         anchors.right: header.right
         anchors.rightMargin: -rightPadding
         anchors.verticalCenter: libraryButton.verticalCenter
-        text: Localized.czech ? "Ukončit" : "Quit"
+        label: Localized.czech ? "Ukončit" : "Quit"
         color: Theme.secondaryInk
         onClicked: root.controller.quit()
     }

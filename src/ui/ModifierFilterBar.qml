@@ -43,7 +43,7 @@ Row {
     GlassButton {
         height: 30
         visible: root.appModel.modifierTokens.length > 0
-        text: Localized.czech ? "Zrušit filtry" : "Clear Filters"
+        label: Localized.czech ? "Zrušit filtry" : "Clear Filters"
         onClicked: root.appModel.clearModifiers()
     }
 }

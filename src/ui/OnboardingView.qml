@@ -72,7 +72,7 @@ AppSheet {
             Layout.fillWidth: true
             Layout.topMargin: 4
             focus: true
-            text: Localized.czech ? "Začít" : "Get Started"
+            label: Localized.czech ? "Začít" : "Get Started"
             onClicked: root.close()
         }
     }

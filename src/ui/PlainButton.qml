@@ -2,12 +2,11 @@
 // SPDX-License-Identifier: MIT
 
 import QtQuick
-import QtQuick.Templates as T
 import Keyvora
 
 // A button that is nothing but its label until the pointer or the keyboard reaches it. Its label is inside of a padding,
 // so that there is more to hit than to see.
-T.Button {
+PressButton {
     id: root
 
     property string symbol: ""
@@ -20,13 +19,10 @@ T.Button {
     verticalPadding: 5
     horizontalPadding: 8
     opacity: !root.enabled ? 0.5 : root.down ? 0.7 : 1
-    Accessible.onPressAction: root.clicked()
-    Keys.onReturnPressed: root.clicked()
-    Keys.onEnterPressed: root.clicked()
 
     contentItem: PlainLabel {
         leftPadding: root.symbol.length > 0 ? 24 : 0
-        text: root.text
+        text: root.label
         size: root.size
         color: root.color
         font.weight: root.weight

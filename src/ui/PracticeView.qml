@@ -162,7 +162,7 @@ ScrollPage {
 
         GlassButton {
             id: startOver
-            text: Localized.czech ? "Začít znovu" : "Start Over"
+            label: Localized.czech ? "Začít znovu" : "Start Over"
             onClicked: root.practice.startOver()
         }
         PlainLabel {
@@ -192,7 +192,7 @@ ScrollPage {
         ProminentButton {
             id: nextTask
             anchors.right: parent.right
-            text: Localized.czech ? "Další úkol" : "Next Task"
+            label: Localized.czech ? "Další úkol" : "Next Task"
             onClicked: {
                 // Whoever works with the mouse would only have to click the field next.
                 const isByMouse = nextTask.activeFocus && nextTask.focusReason === Qt.MouseFocusReason;

@@ -2,11 +2,10 @@
 // SPDX-License-Identifier: MIT
 
 import QtQuick
-import QtQuick.Templates as T
 import Keyvora
 
 // The button of the action that most people want.
-T.Button {
+PressButton {
     id: root
 
     property string symbol: ""
@@ -17,9 +16,6 @@ T.Button {
     leftPadding: 14
     rightPadding: 14
     opacity: !root.enabled ? 0.5 : root.down ? 0.7 : 1
-    Accessible.onPressAction: root.clicked()
-    Keys.onReturnPressed: root.clicked()
-    Keys.onEnterPressed: root.clicked()
 
     contentItem: Item {
         implicitWidth: (children[0] as Row).implicitWidth
@@ -37,7 +33,7 @@ T.Button {
             }
             PlainLabel {
                 height: parent.height
-                text: root.text
+                text: root.label
                 size: 12
                 color: Theme.accentInk
                 font.weight: root.weight

@@ -138,7 +138,7 @@ FocusScope {
             anchors.verticalCenter: parent.verticalCenter
             symbol: "close"
             size: 18
-            text: Localized.czech ? "Zavřít" : "Close"
+            label: Localized.czech ? "Zavřít" : "Close"
             onClicked: root.closed()
             Keys.onBacktabPressed: event => event.accepted = !undoBar.visible && root.enterRows()
         }

@@ -67,7 +67,7 @@ Column {
             color: Theme.secondaryInk
         }
         GlassButton {
-            text: Localized.czech ? "Povolit ve Zpřístupnění…" : "Allow in Accessibility…"
+            label: Localized.czech ? "Povolit ve Zpřístupnění…" : "Allow in Accessibility…"
             onClicked: root.settings.requestTrust()
         }
         MessageLine {
@@ -89,12 +89,12 @@ Column {
             spacing: 8
 
             GlassButton {
-                text: Localized.czech ? "Exportovat zálohu…" : "Export Backup…"
+                label: Localized.czech ? "Exportovat zálohu…" : "Export Backup…"
                 onClicked: root.settings.exportBackup(root.Window.window)
             }
             GlassButton {
                 id: importButton
-                text: Localized.czech ? "Importovat zálohu…" : "Import Backup…"
+                label: Localized.czech ? "Importovat zálohu…" : "Import Backup…"
                 onClicked: root.settings.importBackup(root.Window.window)
                 Keys.onTabPressed: event => {
                     event.accepted = root.hasCustoms;

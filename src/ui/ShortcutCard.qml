@@ -20,15 +20,21 @@ Item {
     signal favoriteToggled(shortcutId: string)
     signal pressed
 
+    // A key that is held toggles once.
+    function toggle(event: var): void {
+        if (!event.isAutoRepeat)
+            root.favoriteToggled(root.shortcutId);
+    }
+
     Accessible.role: Accessible.ListItem
     Accessible.name: root.title
     Accessible.description: Localized.spokenKeys(root.keys, Localized.czech) + ". " + root.detail
     Accessible.focusable: true
     Accessible.focused: root.activeFocus
 
-    Keys.onSpacePressed: root.favoriteToggled(root.shortcutId)
-    Keys.onReturnPressed: root.favoriteToggled(root.shortcutId)
-    Keys.onEnterPressed: root.favoriteToggled(root.shortcutId)
+    Keys.onSpacePressed: event => root.toggle(event)
+    Keys.onReturnPressed: event => root.toggle(event)
+    Keys.onEnterPressed: event => root.toggle(event)
 
     HoverHandler {
         id: hover

@@ -102,7 +102,7 @@ FocusScope {
             required property string title
 
             width: ListView.view.width
-            text: title
+            label: title
             selected: root.sections.currentRow === index
             Accessible.name: title
             Accessible.focusable: true
@@ -128,14 +128,14 @@ FocusScope {
             width: parent.width
             focusPolicy: Qt.StrongFocus
             symbol: "add_circle"
-            text: Localized.czech ? "Přidat vlastní" : "Add Custom"
+            label: Localized.czech ? "Přidat vlastní" : "Add Custom"
             onClicked: root.addRequested()
         }
         SidebarRow {
             width: parent.width
             focusPolicy: Qt.StrongFocus
             symbol: "settings"
-            text: Localized.czech ? "Nastavení" : "Settings"
+            label: Localized.czech ? "Nastavení" : "Settings"
             onClicked: root.settingsRequested()
         }
     }

@@ -10,11 +10,14 @@ T.ItemDelegate {
     id: root
 
     required property string symbol
+    // Not `text`: see `PressButton`.
+    required property string label
     property bool selected: false
 
     implicitHeight: 30
     focusPolicy: Qt.NoFocus
     opacity: root.down ? 0.7 : 1
+    Accessible.name: root.label
     Accessible.onPressAction: root.clicked()
     Keys.onReturnPressed: root.clicked()
     Keys.onEnterPressed: root.clicked()
@@ -36,7 +39,7 @@ T.ItemDelegate {
             x: 35
             width: parent.width - x - 8
             height: parent.height
-            text: root.text
+            text: root.label
             size: 12.5
             color: root.selected ? Theme.accent : Theme.ink
             font.weight: root.selected ? Theme.strongWeight : Theme.regularWeight

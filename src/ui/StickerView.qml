@@ -39,7 +39,7 @@ ScrollPage {
         height: 4
     }
     ProminentButton {
-        text: Localized.czech ? "Exportovat tahák…" : "Export Cheat Sheet…"
+        label: Localized.czech ? "Exportovat tahák…" : "Export Cheat Sheet…"
         onClicked: root.exportRequested()
     }
     Item {

@@ -64,12 +64,12 @@ AppSheet {
                 Layout.fillWidth: true
             }
             GlassButton {
-                text: Localized.czech ? "Teď ne" : "Not Now"
+                label: Localized.czech ? "Teď ne" : "Not Now"
                 onClicked: root.close()
             }
             ProminentButton {
                 focus: true
-                text: Localized.czech ? "Povolit" : "Allow"
+                label: Localized.czech ? "Povolit" : "Allow"
                 onClicked: {
                     root.controller.allow();
                     root.close();

@@ -44,7 +44,7 @@ RoundedRectangle {
         anchors.rightMargin: 7
         anchors.verticalCenter: parent.verticalCenter
         symbol: "undo"
-        text: Localized.czech ? "Vrátit zpět" : "Undo"
+        label: Localized.czech ? "Vrátit zpět" : "Undo"
         onClicked: root.undone()
         Keys.onBacktabPressed: root.leftUpwards()
     }

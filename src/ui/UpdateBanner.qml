@@ -82,13 +82,13 @@ FocusScope {
             horizontalPadding: 6
             size: 11.5
             color: hovered ? Theme.ink : Theme.secondaryInk
-            text: Localized.czech ? "Přeskočit" : "Skip"
+            label: Localized.czech ? "Přeskočit" : "Skip"
             onClicked: root.skip()
         }
         ProminentButton {
             height: 28
             visible: root.updates.hasDownloadPage
-            text: Localized.czech ? "Stáhnout" : "Download"
+            label: Localized.czech ? "Stáhnout" : "Download"
             onClicked: root.updates.openDownloadPage()
         }
     }

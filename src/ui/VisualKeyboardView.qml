@@ -46,7 +46,7 @@ ScrollPage {
     }
     GlassButton {
         visible: root.hasChoice
-        text: Localized.czech ? "Otevřít celou knihovnu" : "Open Full Library"
+        label: Localized.czech ? "Otevřít celou knihovnu" : "Open Full Library"
         symbol: "grid_view"
         onClicked: root.keyboard.openLibrary()
     }

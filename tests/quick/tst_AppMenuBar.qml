@@ -14,7 +14,7 @@ KeyvoraTestCase {
     }
 
     function openItems(): list<string> {
-        return findAll(item.Window.window.contentItem, candidate => candidate instanceof AppMenuItem).map(entry => entry.text + "|" + entry.keysText);
+        return findAll(item.Window.window.contentItem, candidate => candidate instanceof AppMenuItem).map(entry => entry.label + "|" + entry.keysText);
     }
 
     function test_menusHoldTheirCommands_data(): var {
@@ -75,7 +75,7 @@ KeyvoraTestCase {
     }
 
     function highlighted(): list<string> {
-        return findAll(item.Window.window.contentItem, candidate => candidate instanceof AppMenuItem && candidate.highlighted).map(entry => entry.text);
+        return findAll(item.Window.window.contentItem, candidate => candidate instanceof AppMenuItem && candidate.highlighted).map(entry => entry.label);
     }
 
     function test_aMenuOpenedWithTheKeyboardBeginsAtItsFirstCommand(): void {

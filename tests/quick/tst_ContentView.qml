@@ -62,7 +62,7 @@ KeyvoraTestCase {
     }
 
     function test_everySectionShowsItsTitle(data: var): void {
-        mouseClick(findAll(item, candidate => candidate instanceof SidebarRow && candidate.text === data.row)[0]);
+        mouseClick(findAll(item, candidate => candidate instanceof SidebarRow && candidate.label === data.row)[0]);
         compare(Fixture.sections.pageTitle, data.title);
         verify(hasText(data.title));
         Localized.czech = true;
@@ -217,7 +217,7 @@ KeyvoraTestCase {
         tryVerify(() => findAll(item.Window.window.contentItem, candidate => candidate instanceof AppMenuItem).length === 2);
         for (const entry of findAll(item.Window.window.contentItem, candidate => candidate instanceof AppMenuItem)) {
             const left = entry.mapToItem(item, 0, 0).x;
-            verify(left >= 0 && left + entry.width <= item.width, entry.text);
+            verify(left >= 0 && left + entry.width <= item.width, entry.label);
         }
         keyClick(Qt.Key_Escape);
     }

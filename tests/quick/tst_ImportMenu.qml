@@ -46,10 +46,10 @@ KeyvoraTestCase {
 
     function test_theLabelTellsHowFarAnImportIs(data: var): void {
         const menu = createTemporaryObject(subject, root, data.state);
-        compare(menu.text, data.english);
+        compare(menu.label, data.english);
         compare(menu.Accessible.name, data.english);
         Localized.czech = true;
-        compare(menu.text, data.czech);
+        compare(menu.label, data.czech);
         compare(menu.Accessible.name, data.czech);
         const label = findAll(menu, candidate => candidate instanceof PlainLabel)[0];
         verify(!label.truncated);
@@ -103,11 +103,11 @@ KeyvoraTestCase {
         mouseClick(item);
         tryVerify(() => items().length === 2);
         mouseClick(items()[data.entry]);
-        tryCompare(item, "text", data.busy);
+        tryCompare(item, "label", data.busy);
         verify(Fixture.appModel.isImporting);
         Fixture.answerMenu();
         tryCompare(Fixture.appModel, "importMessage", data.message);
-        compare(item.text, "Import from Menu");
+        compare(item.label, "Import from Menu");
         verify(Fixture.titlesShown().includes("Frobnicate"));
     }
 

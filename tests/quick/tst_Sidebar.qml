@@ -10,7 +10,7 @@ KeyvoraTestCase {
     id: root
 
     function rows(): list<string> {
-        return findAll(item, candidate => candidate instanceof SidebarRow).sort((a, b) => a.mapToItem(item, 0, 0).y - b.mapToItem(item, 0, 0).y).map(row => row.text);
+        return findAll(item, candidate => candidate instanceof SidebarRow).sort((a, b) => a.mapToItem(item, 0, 0).y - b.mapToItem(item, 0, 0).y).map(row => row.label);
     }
 
     function test_rowsStandInOrderInBothLanguages(): void {
@@ -26,7 +26,7 @@ KeyvoraTestCase {
     function test_clickingARowSelectsIt(): void {
         mouseClick(named("Browser"));
         compare(Fixture.sections.pageTitle, "Browser");
-        verify(findAll(item, candidate => candidate instanceof SidebarRow && candidate.text === "Browser")[0].selected);
+        verify(findAll(item, candidate => candidate instanceof SidebarRow && candidate.label === "Browser")[0].selected);
     }
 
     function test_arrowsMoveTheSelectionAndStopAtTheEnds(): void {
@@ -45,7 +45,7 @@ KeyvoraTestCase {
 
     function test_theRowFollowsTheModel(): void {
         Fixture.selectCategory(3);
-        verify(findAll(item, candidate => candidate instanceof SidebarRow && candidate.text === "Finder")[0].selected);
+        verify(findAll(item, candidate => candidate instanceof SidebarRow && candidate.label === "Finder")[0].selected);
     }
 
     function test_theFocusRingShowsForTheKeyboardOnly(): void {
@@ -54,6 +54,13 @@ KeyvoraTestCase {
         compare(rings(), 0);
         Theme.showsFocus = true;
         compare(rings(), 1);
+    }
+
+    function test_anAmpersandInASectionMakesNoKey(): void {
+        mouseClick(named("Favorites"));
+        verify(named("Windows & Apps") !== null);
+        keyClick(Qt.Key_Space, Qt.AltModifier);
+        verify(named("Favorites").selected);
     }
 
     function test_bottomRowsAskForTheirSheets(): void {

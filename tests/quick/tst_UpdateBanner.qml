@@ -40,7 +40,7 @@ KeyvoraTestCase {
     }
 
     function button(text: string): Item {
-        return findAll(banner(), candidate => candidate.text === text && candidate.clicked !== undefined)[0] ?? null;
+        return findAll(banner(), candidate => candidate instanceof PressButton && candidate.label === text)[0] ?? null;
     }
 
     function labels(): list<Item> {
@@ -95,7 +95,7 @@ KeyvoraTestCase {
     function test_itStaysOnEverySection(): void {
         announce("1.10", page, "");
         for (const row of ["Practice", "First Aid", "Favorites"]) {
-            mouseClick(findAll(item, candidate => candidate instanceof SidebarRow && candidate.text === row)[0]);
+            mouseClick(findAll(item, candidate => candidate instanceof SidebarRow && candidate.label === row)[0]);
             verify(banner() !== null);
         }
     }

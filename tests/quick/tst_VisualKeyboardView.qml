@@ -149,10 +149,10 @@ KeyvoraTestCase {
 
     function test_textsAreThereInBothLanguages(): void {
         verify(hasText("Click a key to discover every shortcut that uses it."));
-        compare(key("Space").text, "Space");
+        compare(key("Space").label, "Space");
         Localized.czech = true;
         verify(hasText("Klikni na klávesu a objev všechny zkratky, které ji používají."));
-        compare(key("Space").text, "Mezerník");
+        compare(key("Space").label, "Mezerník");
     }
 
     function test_noTextIsCutOff_data(): var {

@@ -381,7 +381,7 @@ TEST_F(QmlUserInterfaceTest, TheQuestionOfTrustIsAskedInTheMainWindow)
     ASSERT_NE(mainWindow(), nullptr);
     EXPECT_TRUE(becomesTrue([] {
         const QQuickItem *focused = mainWindow()->activeFocusItem();
-        return focused != nullptr && focused->property("text") == u"Allow"_s;
+        return focused != nullptr && focused->property("label") == u"Allow"_s;
     }));
     EXPECT_EQ(trustGrants(), 0);
     QTest::keyClick(mainWindow(), Qt::Key_Return);
