@@ -5,6 +5,7 @@
 
 #include "model/AppModel.h"
 #include "model/Assign.h"
+#include "model/Backup.h"
 #include "model/Localization.h"
 #include "model/MenuShortcutImporter.h"
 #include "platform/Accessibility.h"
@@ -26,14 +27,29 @@ void addSignatures(QSet<QString> &signatures, const QList<Shortcut> &shortcuts)
         signatures.insert(menuSignature(shortcut));
 }
 
-/// What the library does not know yet, with all repetitions.
-QList<Shortcut> unknown(const QList<Shortcut> &shortcuts, const QSet<QString> &signatures)
+/// What the library does not know yet, with all repetitions, as far as there is room for it.
+QList<Shortcut> unknown(const QList<Shortcut> &shortcuts, const QSet<QString> &signatures,
+                        BackupAllowance &room)
 {
     QList<Shortcut> result;
-    std::ranges::copy_if(shortcuts, std::back_inserter(result), [&](const Shortcut &shortcut) {
-        return !signatures.contains(menuSignature(shortcut));
-    });
+    for (const Shortcut &shortcut : shortcuts) {
+        if (signatures.contains(menuSignature(shortcut)))
+            continue;
+        if (!room.take(shortcut))
+            break;
+        result.append(shortcut);
+    }
     return result;
+}
+
+/// What room the user's own data leaves. Without a bound the menus of others could make a store that the next
+/// start does not read.
+BackupAllowance roomBeside(const AppModel::Backup &data)
+{
+    BackupAllowance room;
+    // Data that takes more than there is leaves none.
+    static_cast<void>(room.take(data));
+    return room;
 }
 
 /// The applications that this program may read: all but itself.
@@ -71,8 +87,8 @@ QString outcomeOfRunningApps(qsizetype count, int contributors)
 /// An import of all running applications that is under way.
 struct AppModel::RunningAppsImport
 {
-    /// The signatures of the library and the batch. They are kept from one application to the next, because
-    /// the library may be large, and made anew when it changed.
+    /// The signatures of the library and the batch, and the room they leave. They are kept from one
+    /// application to the next, because the library may be large, and made anew when it changed.
     const QSet<QString> &knownSignatures(const AppModel &model)
     {
         const AppLanguage current = Localization::shared().language();
@@ -82,6 +98,9 @@ struct AppModel::RunningAppsImport
             signatures.clear();
             addSignatures(signatures, model.allShortcuts());
             addSignatures(signatures, batch);
+            room = roomBeside(model.backup());
+            for (const Shortcut &shortcut : batch)
+                static_cast<void>(room.take(shortcut));
         }
         return signatures;
     }
@@ -89,7 +108,7 @@ struct AppModel::RunningAppsImport
     /// Adds what the application has to offer to the batch.
     void take(const QList<Shortcut> &imported, const AppModel &model)
     {
-        const QList<Shortcut> added = unknown(imported, knownSignatures(model));
+        const QList<Shortcut> added = unknown(imported, knownSignatures(model), room);
         if (added.isEmpty())
             return;
         batch.append(added);
@@ -103,6 +122,7 @@ struct AppModel::RunningAppsImport
     int contributors = 0;
 
     QSet<QString> signatures;
+    BackupAllowance room;
     AppLanguage language = AppLanguage::English; ///< of the catalog that is in the signatures
     QList<Shortcut> customShortcuts;             ///< those that are in the signatures
 };
@@ -122,7 +142,8 @@ void AppModel::importFrontmostMenu()
         } else {
             QSet<QString> signatures;
             addSignatures(signatures, allShortcuts());
-            const QList<Shortcut> added = unknown(std::get<QList<Shortcut>>(outcome), signatures);
+            BackupAllowance room = roomBeside(backup());
+            const QList<Shortcut> added = unknown(std::get<QList<Shortcut>>(outcome), signatures, room);
             addImported(added);
             setImportMessage(outcomeOfFrontmost(added.size(), appName));
         }

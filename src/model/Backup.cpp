@@ -434,15 +434,16 @@ bool BackupAllowance::take(const QStringList &texts)
     return std::ranges::all_of(texts, [this](const QString &text) { return take(QStringView(text)); });
 }
 
+bool BackupAllowance::take(const Shortcut &shortcut)
+{
+    return take(QStringView(shortcut.id)) && take(QStringView(shortcut.title)) && take(shortcut.keys) &&
+           take(rawValue(shortcut.category)) && take(shortcut.apps) && take(QStringView(shortcut.detail));
+}
+
 bool BackupAllowance::take(const Backup &backup)
 {
     return std::ranges::all_of(backup.customShortcuts,
-                               [this](const Shortcut &shortcut) {
-                                   return take(QStringView(shortcut.id)) &&
-                                          take(QStringView(shortcut.title)) && take(shortcut.keys) &&
-                                          take(rawValue(shortcut.category)) && take(shortcut.apps) &&
-                                          take(QStringView(shortcut.detail));
-                               }) &&
+                               [this](const Shortcut &shortcut) { return take(shortcut); }) &&
            take(backup.favorites);
 }
 

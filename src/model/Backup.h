@@ -24,7 +24,8 @@ struct Backup
     friend bool operator==(const Backup &, const Backup &) = default;
 };
 
-/// The bounds of a backup. They keep what is merged well below what the defaults store may hold.
+/// The bounds of a backup, and of what imports add to the user's own data: a backup can hold all of it, and
+/// it stays well below what the defaults store may hold.
 namespace BackupLimits {
 
 /// The largest file that is read.
@@ -44,6 +45,8 @@ class BackupAllowance
 public:
     /// False when the text does not fit any more; what was refused is counted all the same.
     [[nodiscard]] bool take(QStringView text);
+    /// All texts of the shortcut, up to the first that does not fit.
+    [[nodiscard]] bool take(const Shortcut &shortcut);
     /// All texts of the backup, up to the first that does not fit.
     [[nodiscard]] bool take(const Backup &backup);
 

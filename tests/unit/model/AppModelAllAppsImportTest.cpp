@@ -78,6 +78,16 @@ TEST(AllAppsImport, KeepsRepetitionsWithinOneMenu)
     EXPECT_EQ(program.model().customShortcuts(), (QList<Shortcut>{shortcut, shortcut}));
 }
 
+TEST(AllAppsImport, AddsNoMoreThanABackupHolds)
+{
+    Program program({.stored = storedCustom(nearlyAllThatFits())});
+    program.workspace.setRunning({{finder, safari}});
+    program.accessibility.setMenuBar(815, menuOfTen());
+    program.accessibility.setMenuBar(4711, menuOf({menuItem(u"Something Else"_s, u"e"_s)}));
+    importAll(program);
+    expectNoMoreThanFits(program, u"Imported %1 shortcuts from 1 apps."_s);
+}
+
 TEST(AllAppsImport, PassesOverApplicationsThatFail)
 {
     Program program;

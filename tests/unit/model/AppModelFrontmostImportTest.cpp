@@ -53,6 +53,16 @@ TEST(FrontmostImport, KeepsTheFormOfTheWordForOne)
     EXPECT_EQ(program.model().importMessage(), u"Imported 1 shortcuts from %1 %2."_s);
 }
 
+TEST(FrontmostImport, AddsNoMoreThanABackupHolds)
+{
+    Program program({.stored = storedCustom(nearlyAllThatFits()), .frontmost = safari});
+    program.accessibility.setMenuBar(4711, menuOfTen());
+    importFrontmost(program);
+    expectNoMoreThanFits(program, u"Imported %1 shortcuts from Safari."_s);
+    importFrontmost(program);
+    EXPECT_EQ(program.model().importMessage(), u"No new shortcuts were found in the menu."_s);
+}
+
 TEST(FrontmostImport, AddsNothingTheSecondTime)
 {
     Program program(inFront(safari));

@@ -5,10 +5,14 @@
 
 #include "contract/Waiting.h"
 #include "model/AppModel.h"
+#include "model/Backup.h"
+#include "model/Defaults.h"
 #include "unit/Settle.h"
+#include "unit/model/Menus.h"
 #include "unit/model/Program.h"
 
 #include <QCoreApplication>
+#include <QFileInfo>
 
 #include <gtest/gtest.h>
 
@@ -34,6 +38,34 @@ inline Shortcut imported(const RunningApplication &application, const QString &t
 {
     return makeShortcut("menu-"_L1 + application.name + '-'_L1 + title + u"-⌘"_s + key, title, {u"⌘"_s, key},
                         {application.name}, "Imported from "_L1 + application.name + "'s menu."_L1);
+}
+
+/// Own shortcuts that leave room for a few imported ones more.
+inline QList<Shortcut> nearlyAllThatFits()
+{
+    constexpr qint64 left = 500;
+    return {makeShortcut(u"custom-1"_s, u"Own"_s, {u"⌘"_s, u"1"_s}, {},
+                         QString(BackupLimits::textBytes - left, u'x'))};
+}
+
+/// A menu of ten new commands, more than are left room for.
+inline MenuTree menuOfTen()
+{
+    QList<MenuElement> items;
+    for (char key = '0'; key <= '9'; ++key)
+        items.append(menuItem(u"New Thing "_s + QLatin1Char(key), QString(QLatin1Char(key))));
+    return menuOf(items);
+}
+
+/// Some but not all of the ten were added, as the message tells, and all that there is now can be backed up.
+inline void expectNoMoreThanFits(Program &program, const QString &message)
+{
+    const qsizetype added = program.model().customShortcuts().size() - 1;
+    EXPECT_GT(added, 0);
+    EXPECT_LT(added, 10);
+    EXPECT_EQ(program.model().importMessage(), message.arg(added));
+    EXPECT_FALSE(program.model().exportBackup().isEmpty());
+    EXPECT_LT(QFileInfo(program.storePath()).size(), Defaults::maximumFileBytes);
 }
 
 inline void importFrontmost(Program &program)
