@@ -31,7 +31,8 @@ class Workspace : public QObject
 public:
     using QObject::QObject;
 
-    /// The application whose window has the focus; nothing when none has or the desktop does not tell.
+    /// The application whose window has the focus; nothing when none has or the desktop does not tell. While
+    /// a panel or the desktop itself has it, this is the application before, but never this one.
     [[nodiscard]] virtual std::optional<RunningApplication> frontmostApplication() const = 0;
 
     /// The ordinary applications that run now, those with a window in the task list, in the desktop's order,

@@ -9,6 +9,7 @@
 #include "contract/X11Desktop.h"
 #include "unit/platform/linux/Files.h"
 
+#include <QCoreApplication>
 #include <QTemporaryDir>
 
 #include <functional>
@@ -234,6 +235,21 @@ TEST_F(X11WorkspaceTest, TakesNoNoticeOfPartsOfTheDesktop)
             << type.toStdString();
     }
     EXPECT_EQ(toldUntilNow(), (QList<RunningApplication>{{u"Editor"_s, 1}}));
+}
+
+TEST_F(X11WorkspaceTest, WeAreNotInFrontOfTheDesktop)
+{
+    const auto ourselves = static_cast<qint32>(QCoreApplication::applicationPid());
+    const Workspace &workspace = makeWorkspace();
+    for (const QByteArray &type :
+         {QByteArray("_NET_WM_WINDOW_TYPE_DOCK"), QByteArray("_NET_WM_WINDOW_TYPE_DESKTOP")}) {
+        announce({makeWindow("Keyvora", static_cast<quint32>(ourselves))});
+        EXPECT_TRUE(becomesTrue([&] {
+            return workspace.frontmostApplication() == RunningApplication{u"Keyvora"_s, ourselves};
+        }));
+        announce({makeWindow("Panel", 3, type)});
+        EXPECT_TRUE(becomesTrue([&] { return !workspace.frontmostApplication(); })) << type.toStdString();
+    }
 }
 
 TEST_F(X11WorkspaceTest, NamesWhatIsInFrontWhileAPanelHasTheFocus)

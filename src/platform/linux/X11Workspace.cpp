@@ -6,6 +6,7 @@
 #include "platform/InBackground.h"
 #include "platform/linux/X11Connection.h"
 
+#include <QCoreApplication>
 #include <QPointer>
 
 #include <algorithm>
@@ -121,8 +122,14 @@ void X11Workspace::activeWindowAnnounced(xcb_window_t window)
 
 void X11Workspace::activeWindowRead(quint64 reading, const WindowFacts &facts)
 {
-    if (reading != m_reading || facts.isPartOfDesktop)
+    if (reading != m_reading)
         return;
+    if (facts.isPartOfDesktop) {
+        // Other applications stay in front of a panel or the desktop; we do not, who watch others work.
+        if (m_frontmost && m_frontmost->pid == static_cast<qint32>(QCoreApplication::applicationPid()))
+            m_frontmost.reset();
+        return;
+    }
     const quint64 activation = ++m_activation;
     if (!facts.pid && facts.identity == WindowIdentity()) {
         m_frontmost.reset(); // the window is gone already
