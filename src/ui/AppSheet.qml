@@ -37,7 +37,7 @@ T.Popup {
         Card {
             anchors.fill: parent
             cornerRadius: 18
-            raised: true
+            elevation: 1
         }
         RoundedRectangle {
             anchors.fill: parent

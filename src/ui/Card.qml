@@ -4,19 +4,20 @@
 import QtQuick
 import Keyvora
 
-// A rounded surface with a soft shadow that deepens when it is raised.
+// A rounded surface with a soft shadow that deepens as it is raised.
 Item {
     id: root
 
-    property bool raised: false
+    // From 0, at rest, to 1. The shadow goes there in few steps, because each is a picture.
+    property real elevation: 0
     property real cornerRadius: 16
 
     CardShadow {
         anchors.fill: parent
         cornerRadius: root.cornerRadius
-        blur: root.raised ? 8 : 4
-        offset: root.raised ? 3 : 2
-        percent: root.raised ? 10 : 5
+        blur: Math.round(4 + 4 * root.elevation)
+        offset: Math.round(2 + root.elevation)
+        percent: Math.round(5 + 5 * root.elevation)
     }
     RoundedRectangle {
         anchors.fill: parent

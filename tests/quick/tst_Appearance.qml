@@ -30,7 +30,7 @@ KeyvoraTestCase {
         const note = () => widths.push(card.width);
         card.widthChanged.connect(note);
         mouseMove(card, card.width / 2, card.height / 2);
-        tryVerify(() => card.raised && card.width === Math.round(root.card("Copy").width * 1.012));
+        tryVerify(() => card.elevation === 1 && card.width === Math.round(root.card("Copy").width * 1.012));
         card.widthChanged.disconnect(note);
         return widths;
     }
