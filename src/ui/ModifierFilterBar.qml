@@ -21,6 +21,7 @@ Row {
         color: Theme.secondaryInk
     }
     ModifierPill {
+        id: first
         token: "⌘"
         appModel: root.appModel
     }
@@ -41,9 +42,15 @@ Row {
         appModel: root.appModel
     }
     GlassButton {
-        height: 30
+        id: clear
+        anchors.verticalCenter: parent.verticalCenter
         visible: root.appModel.modifierTokens.length > 0
         label: Localized.czech ? "Zrušit filtry" : "Clear Filters"
-        onClicked: root.appModel.clearModifiers()
+        onClicked: {
+            // What is hidden would keep the keyboard.
+            if (clear.activeFocus)
+                first.forceActiveFocus(Qt.TabFocusReason);
+            root.appModel.clearModifiers();
+        }
     }
 }

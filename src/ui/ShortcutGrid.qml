@@ -44,7 +44,7 @@ GridView {
     cellHeight: root.cardHeight + root.spacing
     clip: true
     boundsBehavior: Flickable.StopAtBounds
-    activeFocusOnTab: true
+    activeFocusOnTab: root.count > 0
     keyNavigationEnabled: true
     // Cards made ahead of time would be made in vain at the next keystroke in the search field.
     cacheBuffer: 0

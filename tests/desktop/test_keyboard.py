@@ -68,6 +68,7 @@ class TabTest(KeyboardTestCase):
         self.see_focus("Clear Filters")
         self.keys("space")
         self.card("Copy")
+        self.see_focus("⌘ Command")
 
 
 class SidebarTest(KeyboardTestCase):
