@@ -24,7 +24,7 @@ FocusScope {
         id: pageTitle
         anchors.left: parent.left
         anchors.right: controls.left
-        anchors.rightMargin: 16
+        anchors.rightMargin: controls.spacing
         height: parent.height
         text: root.sections.pageTitle
         size: 24
@@ -58,7 +58,7 @@ FocusScope {
                 color: Theme.secondaryInk
             }
             PlainLabel {
-                width: Math.min(implicitWidth, 150, Math.max(64, activeApp.room))
+                width: Math.min(implicitWidth, 150, Math.max(72, activeApp.room))
                 height: parent.height
                 text: root.appModel.activeApp
                 size: 12.5

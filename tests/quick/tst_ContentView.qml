@@ -187,6 +187,14 @@ KeyvoraTestCase {
         keyClick(Qt.Key_Escape);
     }
 
+    function test_anOrdinaryNameIsWholeBesideTheLongestTitle(): void {
+        Fixture.activate("Mousepad");
+        mouseClick(named("Cheat Sheet"));
+        const name = findAll(item, candidate => candidate instanceof PlainLabel && candidate.text === "Mousepad")[0];
+        verify(item.width === 980);
+        verify(!name.truncated);
+    }
+
     function test_theTopBarFitsAtTheSmallestWidth_data(): var {
         return [
             {
