@@ -177,12 +177,16 @@ void QmlUserInterface::makeMainWindow()
         else
             m_discardTimer.start();
     });
+    // The about window may have been open longer than a closed main window is kept.
+    QObject::connect(m_mainWindow->rootObject(), SIGNAL(isInterruptedChanged()), &m_discardTimer,
+                     SLOT(start()));
 }
 
 void QmlUserInterface::discardMainWindow()
 {
     // What is begun in it waits for as long as it takes.
-    if (m_mainWindow->rootObject()->property("isInterrupted").toBool())
+    if (!m_mainWindow || m_mainWindow->isVisible() ||
+        m_mainWindow->rootObject()->property("isInterrupted").toBool())
         return;
     m_mainWindowFrame.reset();
     m_mainWindow.reset();

@@ -242,6 +242,25 @@ TEST_F(QmlUserInterfaceTest, AClosedMainWindowWithAnOpenSheetStays)
     EXPECT_FALSE(window.isNull());
 }
 
+TEST_F(QmlUserInterfaceTest, AClosedMainWindowGoesOnceWhatKeptItIsOver)
+{
+    keepNoClosedWindow();
+    userInterface().showMainWindow({});
+    const QPointer<QQuickView> window = mainWindow();
+    userInterface().askForTrust();
+    window->hide();
+    QCoreApplication::processEvents();
+    QCoreApplication::processEvents();
+    ASSERT_FALSE(window.isNull());
+    const QObjectList content = window->rootObject()->findChildren<QObject *>();
+    const auto prompt = std::ranges::find_if(content, [](const QObject *child) {
+        return QByteArray(child->metaObject()->className()).startsWith("TrustPrompt");
+    });
+    ASSERT_NE(prompt, content.end());
+    ASSERT_TRUE(QMetaObject::invokeMethod(*prompt, "close"));
+    EXPECT_TRUE(becomesTrue([&] { return window.isNull(); }));
+}
+
 TEST_F(QmlUserInterfaceTest, OverlayComesAndGoes)
 {
     EXPECT_FALSE(userInterface().isOverlayVisible());
