@@ -13,8 +13,7 @@ inline bool isFirstTime(const Defaults &defaults, QLatin1StringView flag)
     return !defaults.boolean(flag).value_or(false);
 }
 
-/// From now on it has happened. Writes to the disk, for which what the user waits for should not have to
-/// wait.
+/// From now on it has happened; what cannot be written happens again at the next start.
 inline void rememberFirstTime(Defaults &defaults, QLatin1StringView flag)
 {
     if (isFirstTime(defaults, flag))

@@ -184,8 +184,8 @@ void KeyvoraApp::finishLaunching(bool isByHand)
             m_mainWindow.show();
     };
     if (launch.isFirstEver || m_statusItem->host() != StatusItem::Host::Unknown) {
-        decide(m_statusItem->host());
         rememberFirstTime(m_defaults, DefaultsKeys::hasLaunchedBefore);
+        decide(m_statusItem->host());
         return;
     }
     // Only the first answer belongs to this launch; a tray that goes away later opens nothing.
