@@ -4,7 +4,6 @@
 #include "ui/Localized.h"
 
 #include "model/KeyCapLabel.h"
-#include "model/KeySteps.h"
 #include "model/Localization.h"
 #include "ui/CategorySymbols.h"
 
@@ -45,11 +44,6 @@ QString Localized::spokenKeys(const QStringList &tokens, [[maybe_unused]] bool c
     for (const QString &token : tokens)
         words.append(spokenKeyName(token));
     return words.join(u' ');
-}
-
-bool Localized::isStepSeparator(const QStringList &tokens, int index) const
-{
-    return keyvora::isStepSeparator(tokens, index);
 }
 
 QString Localized::categoryName(int category, [[maybe_unused]] bool czech) const

@@ -34,9 +34,6 @@ public:
     /// A combination as it is spoken: "Command Shift S". `czech` as for `keyCapLabel`.
     [[nodiscard]] Q_INVOKABLE QString spokenKeys(const QStringList &tokens, bool czech) const;
 
-    /// Whether a token leads to the next step rather than standing for a key.
-    [[nodiscard]] Q_INVOKABLE bool isStepSeparator(const QStringList &tokens, int index) const;
-
     [[nodiscard]] static int categoryCount() { return static_cast<int>(allCategories.size()); }
     /// The name of a category, given by its position in the order of display. `czech` as for `keyCapLabel`.
     [[nodiscard]] Q_INVOKABLE QString categoryName(int category, bool czech) const;

@@ -3,7 +3,6 @@
 
 #include "contract/Waiting.h"
 #include "fakes/FakeUrlLoader.h"
-#include "platform/NullUrlLoader.h"
 #include "platform/WhenFinished.h"
 #include "platform/linux/HelperUrlLoader.h"
 #include "unit/QtPrinters.h"
@@ -36,20 +35,6 @@ public:
     virtual void publish(const Document &document) = 0;
     /// Lets the answers to what was asked come.
     virtual void answer() {}
-    /// Whether a document ever gets through.
-    [[nodiscard]] virtual bool isOnline() const { return true; }
-};
-
-class NullBackend : public UrlLoaderBackend
-{
-public:
-    UrlLoader *loader() override { return m_loader.get(); }
-    void loseLoader() override { m_loader.reset(); }
-    void publish(const Document & /*document*/) override {}
-    [[nodiscard]] bool isOnline() const override { return false; }
-
-private:
-    std::unique_ptr<NullUrlLoader> m_loader = std::make_unique<NullUrlLoader>();
 };
 
 class FakeBackend : public UrlLoaderBackend
@@ -155,8 +140,7 @@ TEST_P(UrlLoaderContract, GivesTheDocument)
     const QByteArray binary("\0\x01\xFF{}\r\n", 7);
     for (const QByteArray &document :
          {QByteArray("{\"a\": 1}\n"), binary, QByteArray(""), QByteArray(UrlLoader::maximumBytes, 'x')})
-        EXPECT_EQ(loaded(document), backend().isOnline() ? Document(document) : Document())
-            << document.size();
+        EXPECT_EQ(loaded(document), Document(document)) << document.size();
 }
 
 TEST_P(UrlLoaderContract, GivesNothingWhenThereIsNone)
@@ -179,7 +163,7 @@ TEST_P(UrlLoaderContract, AnswersEachLoadOnce)
     backend().answer();
     EXPECT_TRUE(becomesTrue([this] { return answers().size() >= 3; }));
     QCoreApplication::processEvents();
-    const Document expected = backend().isOnline() ? Document("document") : Document();
+    const Document expected("document");
     EXPECT_EQ(answers(), (QList<Document>{expected, expected, expected}));
     EXPECT_EQ(unanswered(), 0);
 }
@@ -190,15 +174,11 @@ TEST_P(UrlLoaderContract, LeavesLoadsWithoutAResultWhenItGoes)
     load();
     backend().loseLoader();
     EXPECT_TRUE(becomesTrue([this] { return unanswered() + answers().size() == 2; }));
-    EXPECT_EQ(unanswered(), backend().isOnline() ? 2 : 0);
+    EXPECT_EQ(unanswered(), 2);
 }
 
 INSTANTIATE_TEST_SUITE_P(Backends, UrlLoaderContract,
-                         testing::Values(Row{"Null",
-                                             [] {
-                                                 return std::make_unique<NullBackend>();
-                                             }},
-                                         Row{"Fake",
+                         testing::Values(Row{"Fake",
                                              [] {
                                                  return std::make_unique<FakeBackend>();
                                              }},

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Keyvora developers
 // SPDX-License-Identifier: MIT
 
+#include "fakes/FakeAccessibility.h"
 #include "fakes/FakeLoginItem.h"
 #include "fuzz/Properties.h"
 #include "model/AppModel.h"
@@ -9,7 +10,6 @@
 #include "model/Defaults.h"
 #include "model/DefaultsKeys.h"
 #include "model/Localization.h"
-#include "platform/NullAccessibility.h"
 #include "platform/NullWorkspace.h"
 
 #include <QDir>
@@ -121,7 +121,7 @@ public:
 private:
     NullWorkspace m_workspace;
     FakeLoginItem m_loginItem;
-    NullAccessibility m_accessibility;
+    FakeAccessibility m_accessibility;
 
 public:
     Defaults defaults;

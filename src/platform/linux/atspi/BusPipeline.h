@@ -69,8 +69,6 @@ public:
     /// called.
     bool run();
 
-    /// Whether a `run` gave up, after which nothing is asked any more.
-    [[nodiscard]] bool hasGivenUp() const { return m_hasGivenUp; }
     /// How many calls were made.
     [[nodiscard]] int callCount() const { return m_callCount; }
 
