@@ -48,6 +48,7 @@ X11Workspace::X11Workspace(X11Connection &connection, ApplicationNames names, QO
 
 X11Workspace::~X11Workspace()
 {
+    m_nameSearch.clear();
     m_nameSearch.waitForDone();
 }
 
@@ -130,7 +131,7 @@ void X11Workspace::activeWindowRead(quint64 reading, const WindowFacts &facts)
             m_frontmost.reset();
         return;
     }
-    const quint64 activation = ++m_activation;
+    ++m_activation;
     if (!facts.pid && facts.identity == WindowIdentity()) {
         m_frontmost.reset(); // the window is gone already
         return;
@@ -142,10 +143,23 @@ void X11Workspace::activeWindowRead(quint64 reading, const WindowFacts &facts)
         return;
     }
     m_frontmost = RunningApplication{ApplicationNames::fallback(facts.identity), facts.pid};
-    findNames({facts.identity}, [this, activation, identity = facts.identity](const Names &names) {
-        if (activation != m_activation || !m_frontmost)
+    m_unnamed = {m_activation, facts.identity};
+    if (!m_isNaming)
+        nameFrontmost();
+}
+
+void X11Workspace::nameFrontmost()
+{
+    m_isNaming = true;
+    findNames({m_unnamed.second}, [this, unnamed = m_unnamed](const Names &names) {
+        m_isNaming = false;
+        if (m_unnamed.first != m_activation || !m_frontmost)
             return;
-        m_frontmost->name = names.value(identity);
+        if (m_unnamed != unnamed) {
+            nameFrontmost();
+            return;
+        }
+        m_frontmost->name = names.value(unnamed.second);
         emit applicationActivated(*m_frontmost);
     });
 }

@@ -12,6 +12,7 @@
 
 #include <functional>
 #include <memory>
+#include <utility>
 #include <xcb/xcb.h>
 
 namespace keyvora {
@@ -61,6 +62,9 @@ private:
     void readActiveWindow();
     void activeWindowAnnounced(xcb_window_t window);
     void activeWindowRead(quint64 reading, const WindowFacts &facts);
+    /// Finds the name of what is in front. One at a time: windows can change faster than names are found, and
+    /// the last one counts.
+    void nameFrontmost();
     void windowsAnnounced(const QByteArray &windows, const std::shared_ptr<Survey> &survey);
     void windowRead(const WindowFacts &facts, const std::shared_ptr<Survey> &survey);
     void windowsRead(const std::shared_ptr<Survey> &survey);
@@ -75,6 +79,9 @@ private:
     std::optional<RunningApplication> m_frontmost;
     quint64 m_reading = 0;    ///< counts announcements, so that a late answer to an earlier one is dropped
     quint64 m_activation = 0; ///< counts what came to the front, so that a name found too late is dropped
+    /// The last activation of an application whose name was not known, and which one.
+    std::pair<quint64, WindowIdentity> m_unnamed;
+    bool m_isNaming = false;
     QThreadPool m_nameSearch;
 };
 
