@@ -89,11 +89,14 @@ void PracticeSession::clearAnswer()
 
 void PracticeSession::followLanguage()
 {
-    // The round stays, in other words; what was deleted meanwhile is asked as it was.
+    // The round stays, in other words. Own shortcuts have one wording, and may share an id with another one;
+    // what was deleted meanwhile is asked as it was.
     const QList<Shortcut> all = m_model.allShortcuts();
     for (Shortcut &item : m_items) {
-        const auto translated = std::ranges::find(all, item.id, &Shortcut::id);
-        if (translated != all.end())
+        const auto translated = std::ranges::find_if(all, [&](const Shortcut &shortcut) {
+            return shortcut.id == item.id && shortcut.keys == item.keys;
+        });
+        if (translated != all.end() && !m_model.customShortcuts().contains(item))
             item = *translated;
     }
     emit taskChanged();

@@ -198,6 +198,25 @@ TEST(PracticeSession, KeepsItsRoundInTheOtherLanguage)
     EXPECT_EQ(session.score(), 1);
 }
 
+TEST(PracticeSession, TellsShortcutsOfOneIdApartInTheOtherLanguage)
+{
+    const QList<Shortcut> own{makeShortcut(u"copy"_s, u"Mine"_s, {u"⌘"_s, u"J"_s}),
+                              makeShortcut(u"own"_s, u"First"_s, {u"⌘"_s, u"1"_s}),
+                              makeShortcut(u"own"_s, u"Second"_s, {u"⌘"_s, u"1"_s})};
+    QJsonObject stored = storedCustom(own);
+    const QJsonObject hard{{u"seen"_s, 1}, {u"wrong"_s, 1}};
+    stored[u"practiceStats"_s] = QJsonObject{{u"copy"_s, hard}, {u"own"_s, hard}};
+    Program program({.stored = stored});
+    PracticeSession session(program.model());
+    program.localization().setLanguage(AppLanguage::Czech);
+    QStringList titles;
+    for (int task = 0; task < 4; ++task) {
+        titles.append(session.title());
+        session.next();
+    }
+    EXPECT_EQ(titles, (QStringList{u"Kopírovat"_s, u"Mine"_s, u"First"_s, u"Second"_s}));
+}
+
 TEST(PracticeSession, StillAsksWhatWasDeletedMeanwhile)
 {
     QJsonObject stored = storedCustom({makeShortcut(u"custom-1"_s, u"Own"_s, {u"⌘"_s, u"J"_s})});
