@@ -30,7 +30,7 @@ class KeyvoraView;
 class PanelWindow;
 class WindowFrame;
 
-/// The user interface in QML, drawn by the software renderer unless the environment asks for another.
+/// The user interface in QML, drawn by the software renderer.
 class QmlUserInterface : public UserInterface
 {
 public:

@@ -17,8 +17,8 @@ class QSocketNotifier;
 namespace keyvora {
 
 /// Our own connection to the X server, beside the toolkit's, so that root-window events, grabs and errors are
-/// ours alone. Never blocks after construction: replies arrive by callback, events by signal, both from the
-/// event loop. A server that goes away ends the events silently; the toolkit's own connection ends the
+/// ours alone. Replies arrive by callback, events by signal, both from the event loop; what waits for the
+/// server says so. A server that goes away ends the events silently; the toolkit's own connection ends the
 /// program.
 class X11Connection : public QObject
 {
