@@ -3,6 +3,8 @@
 
 #include "ui/PixelNode.h"
 
+#include "ui/LineWidth.h"
+
 #include <QMatrix4x4>
 #include <QQuickWindow>
 #include <QSGRendererInterface>
@@ -21,8 +23,7 @@ std::pair<int, int> wholePixels(qreal begin, qreal length)
     constexpr qreal thin = 4;
     const qreal first = std::round(begin);
     // Lines are as thick in one place as in another, which ends that are rounded by themselves are not.
-    const qreal whole =
-        length < thin ? std::max(1.0, std::round(length)) : std::round(begin + length) - first;
+    const qreal whole = length < thin ? lineWidthInPixels(length) : std::round(begin + length) - first;
     return {static_cast<int>(first), static_cast<int>(whole)};
 }
 

@@ -3,6 +3,8 @@
 
 #include "ui/RoundedPicture.h"
 
+#include "ui/LineWidth.h"
+
 #include <QPainter>
 #include <QPainterPath>
 
@@ -29,7 +31,7 @@ RoundedLook RoundedLook::inPixels(const QSize &size, qreal scale) const
 {
     RoundedLook look = *this;
     look.radius = std::clamp(radius * scale, 0.0, std::min(size.width(), size.height()) / 2.0);
-    look.borderWidth = borderWidth > 0 ? std::max(1.0, std::round(borderWidth * scale)) : 0;
+    look.borderWidth = borderWidth > 0 ? lineWidthInPixels(borderWidth * scale) : 0;
     return look;
 }
 
