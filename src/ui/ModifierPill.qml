@@ -27,7 +27,6 @@ T.CheckBox {
         text: root.token
         size: 15
         color: root.checked ? Theme.accentInk : Theme.ink
-        font.weight: Theme.mediumWeight
         horizontalAlignment: Text.AlignHCenter
     }
     background: RoundedRectangle {

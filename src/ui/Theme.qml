@@ -54,7 +54,9 @@ QtObject {
     readonly property color secondGlow: Qt.rgba(1, 140 / 255, 80 / 255, dark ? 0.06 : 0.09)
 
     readonly property int regularWeight: 400
-    readonly property int mediumWeight: 550
+    // A little below 550: fonts without a weight of that very number have one of 500 and one of 600, and the lighter
+    // one is meant.
+    readonly property int mediumWeight: 540
     readonly property int strongWeight: 650
 
     // A tint that lets its background through, as wide surfaces want it.
