@@ -34,10 +34,12 @@ T.Popup {
         color: Theme.dark ? Qt.rgba(0, 0, 0, 0.5) : Qt.rgba(0, 0, 0, 0.27)
     }
     background: Item {
-        Card {
+        CardShadow {
             anchors.fill: parent
             cornerRadius: 18
-            elevation: 1
+            blur: 60
+            offset: 14
+            percent: 28
         }
         RoundedRectangle {
             anchors.fill: parent

@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numeric>
 #include <vector>
 
 namespace keyvora {
@@ -19,56 +20,52 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-/// How much of each pixel of a square is covered, from 0 to 1.
+/// How much of each pixel is covered, from 0 to 1.
 class CoverageMap
 {
 public:
-    explicit CoverageMap(int side)
-        : m_side(static_cast<size_t>(side))
-        , m_values(m_side * m_side)
+    explicit CoverageMap(const QSize &size)
+        : m_width(size.width())
+        , m_height(size.height())
+        , m_values(static_cast<size_t>(m_width) * static_cast<size_t>(m_height))
     {
     }
 
     [[nodiscard]] float &at(int x, int y)
     {
-        return m_values[static_cast<size_t>(y) * m_side + static_cast<size_t>(x)];
+        return m_values[static_cast<size_t>(y) * static_cast<size_t>(m_width) + static_cast<size_t>(x)];
     }
 
     /// Spreads every value evenly over the square of this radius around it.
     void boxBlur(int radius)
     {
-        for (int pass = 0; pass < 2; ++pass) {
-            blurLines(radius);
-            transpose();
-        }
+        std::vector<float> line;
+        for (int y = 0; y < m_height; ++y)
+            blurLine(m_width, radius, line, [this, y](int x) -> float & { return at(x, y); });
+        for (int x = 0; x < m_width; ++x)
+            blurLine(m_height, radius, line, [this, x](int y) -> float & { return at(x, y); });
     }
 
 private:
-    void blurLines(int radius)
+    template <typename Place>
+    static void blurLine(int length, int radius, std::vector<float> &line, Place place)
     {
-        const int side = static_cast<int>(m_side);
+        line.resize(static_cast<size_t>(length));
+        for (int i = 0; i < length; ++i)
+            line[static_cast<size_t>(i)] = place(i);
         const float weight = 1.0F / static_cast<float>(2 * radius + 1);
-        std::vector<float> line(m_side);
-        for (int y = 0; y < side; ++y) {
-            for (int x = 0; x < side; ++x) {
-                float sum = 0;
-                for (int i = std::max(0, x - radius); i <= std::min(side - 1, x + radius); ++i)
-                    sum += at(i, y);
-                line[static_cast<size_t>(x)] = sum * weight;
-            }
-            std::ranges::copy(line, &at(0, y));
+        float sum = std::accumulate(line.begin(), line.begin() + std::min(radius, length), 0.0F);
+        for (int i = 0; i < length; ++i) {
+            if (i + radius < length)
+                sum += line[static_cast<size_t>(i) + static_cast<size_t>(radius)];
+            if (i > radius)
+                sum -= line[static_cast<size_t>(i) - static_cast<size_t>(radius) - 1];
+            place(i) = std::max(0.0F, sum * weight);
         }
     }
 
-    void transpose()
-    {
-        for (int y = 0; y < static_cast<int>(m_side); ++y) {
-            for (int x = 0; x < y; ++x)
-                std::swap(at(x, y), at(y, x));
-        }
-    }
-
-    size_t m_side;
+    int m_width;
+    int m_height;
     std::vector<float> m_values;
 };
 
@@ -84,33 +81,33 @@ struct Shadow
 };
 
 /// The shadow of a rounded rectangle with room for its blur around it.
-QImage picture(const Shadow &shadow, int side)
+QImage picture(const Shadow &shadow, const QSize &size)
 {
     constexpr int blurPasses = 3; // three boxes come close to a Gaussian
-    QImage shape(side, side, QImage::Format_Grayscale8);
+    QImage shape(size, QImage::Format_Grayscale8);
     shape.fill(0);
     {
         QPainter painter(&shape);
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setPen(Qt::NoPen);
         painter.setBrush(Qt::white);
-        painter.drawRoundedRect(
-            QRectF(shadow.blur, shadow.blur, side - 2 * shadow.blur, side - 2 * shadow.blur),
-            shadow.cornerRadius, shadow.cornerRadius);
+        const QRectF whole(QPointF(), size);
+        painter.drawRoundedRect(whole.adjusted(shadow.blur, shadow.blur, -shadow.blur, -shadow.blur),
+                                shadow.cornerRadius, shadow.cornerRadius);
     }
 
-    CoverageMap coverage(side);
-    for (int y = 0; y < side; ++y) {
-        for (int x = 0; x < side; ++x)
+    CoverageMap coverage(size);
+    for (int y = 0; y < size.height(); ++y) {
+        for (int x = 0; x < size.width(); ++x)
             coverage.at(x, y) = static_cast<float>(shape.constScanLine(y)[x]) / 255.0F;
     }
     for (int pass = 0; pass < blurPasses; ++pass)
         coverage.boxBlur(std::max(1, static_cast<int>(shadow.blur) / blurPasses));
 
-    QImage image(side, side, QImage::Format_ARGB32_Premultiplied);
-    for (int y = 0; y < side; ++y) {
+    QImage image(size, QImage::Format_ARGB32_Premultiplied);
+    for (int y = 0; y < size.height(); ++y) {
         auto *line = reinterpret_cast<QRgb *>(image.scanLine(y));
-        for (int x = 0; x < side; ++x) {
+        for (int x = 0; x < size.width(); ++x) {
             const float alpha = coverage.at(x, y) * static_cast<float>(shadow.percent) * 2.55F;
             line[x] = qRgba(0, 0, 0, static_cast<int>(std::lround(alpha)));
         }
@@ -141,13 +138,14 @@ private:
         shadow.cornerRadius = std::round(shadow.cornerRadius * scale);
         shadow.blur = std::round(shadow.blur * scale);
         const int border = static_cast<int>(2 * shadow.blur + shadow.cornerRadius);
-        const int side = 2 * border + NinePatch::tile;
-        // So small a thing would want a picture of its own; nothing on the screens is.
-        if (place.width() < side || place.height() < side)
-            return;
-        const QString name =
-            u"shadow/%1/%2/%3"_s.arg(shadow.cornerRadius).arg(shadow.blur).arg(shadow.percent);
-        const NinePatch patch{PictureCache::picture(name, [&] { return picture(shadow, side); }), border};
+        const QSize size(NinePatch::lengthFor(place.width(), border),
+                         NinePatch::lengthFor(place.height(), border));
+        const QString name = u"shadow/%1/%2/%3/%4/%5"_s.arg(size.width())
+                                 .arg(size.height())
+                                 .arg(shadow.cornerRadius)
+                                 .arg(shadow.blur)
+                                 .arg(shadow.percent);
+        const NinePatch patch{PictureCache::picture(name, [&] { return picture(shadow, size); }), border};
         patch.drawFrame(place, painter);
     }
 

@@ -97,6 +97,18 @@ KeyvoraTestCase {
         compare(picture.pixel(10, 120), Qt.rgba(1, 1, 1, 1));
     }
 
+    function test_aWideShadowLiesEvenlyAroundSmallThings(): void {
+        root.show(wideShadowComponent);
+        waitForRendering(root.item);
+        const picture = grabImage(root.item);
+        const beside = [picture.pixel(98, 150).r, picture.pixel(221, 150).r, picture.pixel(160, 118).r, picture.pixel(160, 181).r];
+        verify(beside[0] < 0.95, "shadow beside: " + beside[0]);
+        compare(beside[0], beside[1]);
+        compare(beside[2], beside[3]);
+        verify(picture.pixel(80, 150).r > beside[0], "it fades");
+        compare(picture.pixel(35, 150), Qt.rgba(1, 1, 1, 1));
+    }
+
     name: "RoundedRectangle"
     subject: Component {
         Loader {
@@ -212,6 +224,22 @@ KeyvoraTestCase {
                 height: 160
                 radius: 16
                 color: "#00FF00"
+            }
+        }
+    }
+    Component {
+        id: wideShadowComponent
+
+        Item {
+            CardShadow {
+                x: 100
+                y: 120
+                width: 120
+                height: 60
+                cornerRadius: 18
+                blur: 60
+                offset: 0
+                percent: 28
             }
         }
     }
