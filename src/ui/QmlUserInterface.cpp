@@ -253,9 +253,12 @@ void QmlUserInterface::keepOverlayBelowPanel()
         return;
     // The panel's button also hides the overlay, which no window manager can put below the panel.
     const auto place = [this] {
-        const QRect available = QGuiApplication::primaryScreen()->availableGeometry();
-        m_overlay->setOffset(
-            m_panel->isVisible() ? cornerOffsetBelow(m_overlay->size(), m_panel->geometry(), available) : 0);
+        const QScreen *screen = QGuiApplication::primaryScreen();
+        if (screen == nullptr)
+            return;
+        m_overlay->setOffset(m_panel->isVisible() ? cornerOffsetBelow(m_overlay->size(), m_panel->geometry(),
+                                                                      screen->availableGeometry())
+                                                  : 0);
     };
     // The overlay goes before the panel does.
     QObject::connect(m_panel.get(), &QWindow::visibleChanged, m_overlay.get(), place);

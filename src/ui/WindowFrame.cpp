@@ -95,6 +95,8 @@ void WindowFrame::restore(QSize initialSize, QSize minimumSize)
     const auto stored = parsedFrame(m_store.text(m_name).value_or(QString()));
     const QScreen *storedScreen = stored ? screenToGraspOn(*stored) : nullptr;
     const QScreen *screen = storedScreen != nullptr ? storedScreen : QGuiApplication::primaryScreen();
+    if (screen == nullptr)
+        return;
     const QRect available = screen->availableGeometry();
     const QMargins decoration = decorationOf(m_window);
     const QSize most = available.size().shrunkBy(decoration);
