@@ -13,8 +13,6 @@
 
 #include <QCoreApplication>
 
-#include <algorithm>
-
 namespace keyvora {
 
 using namespace Qt::Literals::StringLiterals;

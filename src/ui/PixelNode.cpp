@@ -9,7 +9,6 @@
 #include <QQuickWindow>
 #include <QSGRendererInterface>
 
-#include <algorithm>
 #include <cmath>
 #include <utility>
 
