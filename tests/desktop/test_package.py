@@ -59,6 +59,15 @@ def output_of(*command, **environment):
     return done.stdout
 
 
+def binaries(place):
+    """The program and its libraries, in the build folder or an installation."""
+    executable = next(path for path in (place / "keyvora", place / "bin" / "keyvora") if path.is_file())
+    libraries = list(place.glob("lib/**/libkeyvora_*.so"))
+    if not libraries:
+        raise AssertionError(f"no libraries in {place}")
+    return [executable, *libraries]
+
+
 def groups(path):
     """The groups of a desktop entry or a service file."""
     parser = configparser.RawConfigParser(delimiters="=", interpolation=None)
@@ -114,6 +123,16 @@ class Files(unittest.TestCase):
         self.assertEqual(BUS_NAME, service["Name"])
         self.assertEqual(str(stage / "bin" / "keyvora"), service["Exec"])
         self.assertTrue(os.access(service["Exec"], os.X_OK))
+
+    def test_libraries_are_looked_for_in_own_folders_alone(self):
+        # An empty entry is the folder that the program is started in, where anybody may have put anything.
+        for place in (build(), stage):
+            for path in binaries(place):
+                dynamic = output_of("readelf", "--dynamic", "--wide", path)
+                for entry in re.findall(r"Library r(?:un)?path: \[(.*)\]", dynamic):
+                    for folder in entry.split(":"):
+                        self.assertTrue(folder.startswith(("$ORIGIN", "/")), f"{path}: {entry}")
+                        self.assertTrue(place == build() or folder.startswith("$ORIGIN"), f"{path}: {entry}")
 
     def test_the_place_is_that_of_the_target(self):
         image = pathlib.Path(tempfile.mkdtemp(prefix="image-", dir=os.environ["HOME"]))
