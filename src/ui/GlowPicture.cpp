@@ -38,7 +38,7 @@ public:
     }
 
 private:
-    static constexpr int steps = 4096;
+    static constexpr int steps = 1024;
 
     std::array<quint32, steps + 1> m_parts{};
 };
