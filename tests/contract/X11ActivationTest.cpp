@@ -5,6 +5,7 @@
 
 #include "contract/Waiting.h"
 #include "platform/linux/X11Connection.h"
+#include "platform/linux/XcbData.h"
 
 #include <QRegularExpression>
 #include <QTest>
@@ -104,8 +105,7 @@ void X11ActivationTest::asksWithTheTimeOnceTheWindowIsShown()
     QList<Request> requests;
     connect(listener.get(), &X11Connection::eventReceived, this, [&](const xcb_generic_event_t *event) {
         const auto *message = reinterpret_cast<const xcb_client_message_event_t *>(event);
-        constexpr int sentByClientBit = 0x80;
-        if ((event->response_type & ~sentByClientBit) != XCB_CLIENT_MESSAGE || message->window != id ||
+        if (typeOf(*event) != XCB_CLIENT_MESSAGE || message->window != id ||
             message->type != listener->atom("_NET_ACTIVE_WINDOW"))
             return;
         requests.append({message->data.data32[0], message->data.data32[1]});

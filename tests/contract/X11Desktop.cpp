@@ -3,14 +3,11 @@
 
 #include "contract/X11Desktop.h"
 
-#include <cstdlib>
+#include "platform/linux/XcbData.h"
 
 namespace keyvora {
 
 namespace {
-
-template <typename Reply>
-using XcbReply = std::unique_ptr<Reply, decltype(&std::free)>;
 
 constexpr uint8_t bitsOfBytes = 8;
 constexpr uint8_t bitsOfNumbers = 32;
@@ -72,8 +69,8 @@ bool X11Desktop::grabKeyboard()
 {
     const auto cookie = xcb_grab_keyboard(m_connection.get(), 1, m_screen->root, XCB_CURRENT_TIME,
                                           XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
-    const XcbReply<xcb_grab_keyboard_reply_t> reply(
-        xcb_grab_keyboard_reply(m_connection.get(), cookie, nullptr), &std::free);
+    const XcbOwned<xcb_grab_keyboard_reply_t> reply(
+        xcb_grab_keyboard_reply(m_connection.get(), cookie, nullptr));
     return reply != nullptr && reply->status == XCB_GRAB_STATUS_SUCCESS;
 }
 
@@ -97,7 +94,7 @@ bool X11Desktop::grabKey(uint16_t modifiers, xcb_keycode_t key)
 {
     const auto cookie = xcb_grab_key_checked(m_connection.get(), 0, m_screen->root, modifiers, key,
                                              XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
-    const XcbReply<xcb_generic_error_t> error(xcb_request_check(m_connection.get(), cookie), &std::free);
+    const XcbOwned<xcb_generic_error_t> error(xcb_request_check(m_connection.get(), cookie));
     return error == nullptr;
 }
 
@@ -130,8 +127,8 @@ bool X11Desktop::hasWindowManager()
 {
     const auto cookie = xcb_get_property(m_connection.get(), 0, m_screen->root,
                                          atom("_NET_SUPPORTING_WM_CHECK"), XCB_ATOM_WINDOW, 0, 1);
-    const XcbReply<xcb_get_property_reply_t> reply(
-        xcb_get_property_reply(m_connection.get(), cookie, nullptr), &std::free);
+    const XcbOwned<xcb_get_property_reply_t> reply(
+        xcb_get_property_reply(m_connection.get(), cookie, nullptr));
     return reply && xcb_get_property_value_length(reply.get()) > 0;
 }
 
@@ -139,8 +136,7 @@ xcb_atom_t X11Desktop::atom(const QByteArray &name)
 {
     const auto cookie =
         xcb_intern_atom(m_connection.get(), 0, static_cast<uint16_t>(name.size()), name.constData());
-    const XcbReply<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(m_connection.get(), cookie, nullptr),
-                                                  &std::free);
+    const XcbOwned<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(m_connection.get(), cookie, nullptr));
     return reply ? reply->atom : static_cast<xcb_atom_t>(XCB_ATOM_NONE);
 }
 

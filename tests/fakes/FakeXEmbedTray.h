@@ -4,6 +4,7 @@
 #pragma once
 
 #include "platform/linux/X11Connection.h"
+#include "platform/linux/XcbData.h"
 
 #include <QByteArray>
 #include <QObject>
@@ -53,9 +54,8 @@ private:
 
     void handleEvent(const xcb_generic_event_t *event)
     {
-        constexpr int sentByClientBit = 0x80;
         constexpr uint32_t requestDock = 0;
-        const int type = event->response_type & ~sentByClientBit;
+        const uint8_t type = typeOf(*event);
         if (type == XCB_CLIENT_MESSAGE) {
             const auto *message = reinterpret_cast<const xcb_client_message_event_t *>(event);
             if (message->type != m_x11->atom("_NET_SYSTEM_TRAY_OPCODE") ||

@@ -4,21 +4,18 @@
 #include "platform/linux/X11Activation.h"
 
 #include "platform/linux/X11Connection.h"
+#include "platform/linux/XcbData.h"
 
 #include <QGuiApplication>
 #include <QWindow>
 
 #include <cstdlib>
-#include <memory>
 
 namespace keyvora {
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-template <typename Reply>
-using XcbReply = std::unique_ptr<Reply, decltype(&std::free)>;
 
 constexpr uint8_t bitsOfNumbers = 32;
 constexpr uint32_t directUserAction = 2; ///< the kind of source that window managers obey
@@ -59,8 +56,7 @@ bool activateX11Window(const QWindow &window, xcb_timestamp_t time)
     xcb_connection_t *connection = application->connection();
     constexpr QLatin1StringView name("_NET_ACTIVE_WINDOW");
     const auto cookie = xcb_intern_atom(connection, 0, static_cast<uint16_t>(name.size()), name.data());
-    const XcbReply<xcb_intern_atom_reply_t> atom(xcb_intern_atom_reply(connection, cookie, nullptr),
-                                                 &std::free);
+    const XcbOwned<xcb_intern_atom_reply_t> atom(xcb_intern_atom_reply(connection, cookie, nullptr));
     if (atom == nullptr)
         return false;
     xcb_client_message_event_t message{};

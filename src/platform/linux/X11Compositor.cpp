@@ -4,6 +4,7 @@
 #include "platform/linux/X11Compositor.h"
 
 #include "platform/linux/X11Connection.h"
+#include "platform/linux/XcbData.h"
 
 #include <QPointer>
 
@@ -49,8 +50,7 @@ void X11Compositor::readOwner()
 
 void X11Compositor::handleEvent(const xcb_generic_event_t *event)
 {
-    constexpr uint8_t sentByClientBit = 0x80;
-    if (m_ownerEvent == 0 || (event->response_type & ~sentByClientBit) != m_ownerEvent)
+    if (m_ownerEvent == 0 || typeOf(*event) != m_ownerEvent)
         return;
     // Events and replies may overtake each other, replies among themselves may not.
     if (reinterpret_cast<const xcb_xfixes_selection_notify_event_t *>(event)->selection == m_selection)

@@ -3,20 +3,14 @@
 
 #include "platform/linux/X11Connection.h"
 
+#include "platform/linux/XcbData.h"
+
 #include <QSocketNotifier>
 
-#include <cstdlib>
 #include <utility>
 #include <xcb/xcbext.h>
 
 namespace keyvora {
-
-namespace {
-
-template <typename Reply>
-using XcbReply = std::unique_ptr<Reply, decltype(&std::free)>;
-
-} // namespace
 
 std::unique_ptr<X11Connection> X11Connection::open()
 {
@@ -58,8 +52,7 @@ xcb_atom_t X11Connection::atom(const QByteArray &name)
         return *known;
     const auto cookie =
         xcb_intern_atom(m_connection, 0, static_cast<uint16_t>(name.size()), name.constData());
-    const XcbReply<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(m_connection, cookie, nullptr),
-                                                  &std::free);
+    const XcbOwned<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(m_connection, cookie, nullptr));
     const xcb_atom_t atom = reply ? reply->atom : static_cast<xcb_atom_t>(XCB_ATOM_NONE);
     m_atoms.insert(name, atom);
     readLater();
@@ -173,8 +166,8 @@ bool X11Connection::dispatchReplies()
 
 void X11Connection::finish(void *reply, xcb_generic_error_t *failure)
 {
-    const XcbReply<void> ownedReply(reply, &std::free);
-    const XcbReply<xcb_generic_error_t> ownedFailure(failure, &std::free);
+    const XcbOwned<void> ownedReply(reply);
+    const XcbOwned<xcb_generic_error_t> ownedFailure(failure);
     const PendingReply pending = std::move(m_pendingReplies.front());
     m_pendingReplies.pop_front();
     pending.handler(reply, failure != nullptr);
@@ -184,7 +177,7 @@ bool X11Connection::dispatchEvents(xcb_generic_event_t *(*nextEvent)(xcb_connect
 {
     bool hasFound = false;
     while (xcb_generic_event_t *data = nextEvent(m_connection)) {
-        const XcbReply<xcb_generic_event_t> event(data, &std::free);
+        const XcbOwned<xcb_generic_event_t> event(data);
         hasFound = true;
         emit eventReceived(event.get());
     }

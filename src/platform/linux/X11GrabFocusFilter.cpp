@@ -3,6 +3,8 @@
 
 #include "platform/linux/X11GrabFocusFilter.h"
 
+#include "platform/linux/XcbData.h"
+
 #include <QCoreApplication>
 
 #include <xcb/xcb.h>
@@ -21,9 +23,8 @@ bool X11GrabFocusFilter::nativeEventFilter(const QByteArray &eventType, void *me
 {
     if (eventType != "xcb_generic_event_t")
         return false;
-    constexpr uint8_t sentByClient = 0x80;
     const auto *event = static_cast<const xcb_generic_event_t *>(message);
-    const auto type = static_cast<uint8_t>(event->response_type & ~sentByClient);
+    const uint8_t type = typeOf(*event);
     if (type != XCB_FOCUS_IN && type != XCB_FOCUS_OUT)
         return false;
     const uint8_t mode = reinterpret_cast<const xcb_focus_in_event_t *>(event)->mode;

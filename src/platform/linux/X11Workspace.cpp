@@ -5,6 +5,7 @@
 
 #include "platform/InBackground.h"
 #include "platform/linux/X11Connection.h"
+#include "platform/linux/XcbData.h"
 
 #include <QCoreApplication>
 #include <QPointer>
@@ -54,8 +55,7 @@ X11Workspace::~X11Workspace()
 
 void X11Workspace::handleEvent(const xcb_generic_event_t *event)
 {
-    constexpr uint8_t sentByClientBit = 0x80;
-    if ((event->response_type & ~sentByClientBit) != XCB_PROPERTY_NOTIFY)
+    if (typeOf(*event) != XCB_PROPERTY_NOTIFY)
         return;
     const auto *change = reinterpret_cast<const xcb_property_notify_event_t *>(event);
     if (change->window == m_connection.root() && change->atom == m_connection.atom("_NET_ACTIVE_WINDOW"))

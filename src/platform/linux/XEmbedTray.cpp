@@ -4,6 +4,7 @@
 #include "platform/linux/XEmbedTray.h"
 
 #include "platform/linux/X11Connection.h"
+#include "platform/linux/XcbData.h"
 
 #include <QPointer>
 
@@ -22,8 +23,7 @@ XEmbedTray::XEmbedTray(X11Connection &connection, QObject *parent)
 
 void XEmbedTray::handleEvent(const xcb_generic_event_t *event)
 {
-    constexpr uint8_t sentByClientBit = 0x80;
-    const auto type = static_cast<uint8_t>(event->response_type & ~sentByClientBit);
+    const uint8_t type = typeOf(*event);
     if (type == XCB_CLIENT_MESSAGE) {
         const auto *message = reinterpret_cast<const xcb_client_message_event_t *>(event);
         if (message->type == m_managerMessage && message->data.data32[1] == m_selection)
