@@ -20,6 +20,7 @@
 #include "platform/linux/X11GrabFocusFilter.h"
 #include "platform/linux/X11HotKeys.h"
 #include "platform/linux/X11InputMonitor.h"
+#include "platform/linux/X11Keyboard.h"
 #include "platform/linux/X11KeyboardLayout.h"
 #include "platform/linux/X11Workspace.h"
 #include "system/ApplicationIcon.h"
@@ -51,22 +52,28 @@ std::unique_ptr<Workspace> makeWorkspace(X11Connection *x11, const XdgDirectorie
     return std::make_unique<X11Workspace>(*x11, ApplicationNames(directories.dataDirs, languages));
 }
 
-std::unique_ptr<InputMonitor> makeInputMonitor(X11Connection *x11, const Workspace &workspace)
+std::unique_ptr<X11Keyboard> makeX11Keyboard(X11Connection *x11)
+{
+    return x11 == nullptr ? nullptr : std::make_unique<X11Keyboard>(*x11);
+}
+
+std::unique_ptr<InputMonitor> makeInputMonitor(X11Connection *x11, X11Keyboard *keyboard,
+                                               const Workspace &workspace)
 {
     if (x11 == nullptr)
         return std::make_unique<NullInputMonitor>();
     // The toolkit notices a lost focus only a tenth of a second later.
-    return std::make_unique<X11InputMonitor>(*x11, [&workspace] {
+    return std::make_unique<X11InputMonitor>(*x11, *keyboard, [&workspace] {
         const auto frontmost = workspace.frontmostApplication();
         return frontmost && frontmost->pid == static_cast<qint32>(QCoreApplication::applicationPid());
     });
 }
 
-std::unique_ptr<HotKeys> makeHotKeys(X11Connection *x11)
+std::unique_ptr<HotKeys> makeHotKeys(X11Connection *x11, X11Keyboard *keyboard)
 {
     if (x11 == nullptr)
         return std::make_unique<NullHotKeys>();
-    return std::make_unique<X11HotKeys>(*x11);
+    return std::make_unique<X11HotKeys>(*x11, *keyboard);
 }
 
 std::unique_ptr<Compositor> makeCompositor(X11Connection *x11)
@@ -76,11 +83,11 @@ std::unique_ptr<Compositor> makeCompositor(X11Connection *x11)
     return std::make_unique<X11Compositor>(*x11);
 }
 
-std::unique_ptr<KeyboardLayout> makeKeyboardLayout(X11Connection *x11)
+std::unique_ptr<KeyboardLayout> makeKeyboardLayout(X11Connection *x11, const X11Keyboard *keyboard)
 {
     if (x11 == nullptr)
         return std::make_unique<NullKeyboardLayout>();
-    return std::make_unique<X11KeyboardLayout>(*x11);
+    return std::make_unique<X11KeyboardLayout>(*x11, *keyboard);
 }
 
 bool activateWindow(const QWindow &window, const QString &activationToken)
@@ -107,11 +114,12 @@ KeyvoraApp::KeyvoraApp(ApplicationInstance &instance, const QProcessEnvironment 
     , m_windowFrames(m_directories.stateHome + u"/keyvora/windows.json"_s)
     , m_localization(m_defaults, preferredLanguages(environment))
     , m_x11(X11Connection::open())
+    , m_x11Keyboard(makeX11Keyboard(m_x11.get()))
     , m_workspace(makeWorkspace(m_x11.get(), m_directories, preferredLanguages(environment)))
     , m_loginItem(m_directories.configHome, m_directories.configDirs, QCoreApplication::applicationFilePath())
     , m_accessibility({})
-    , m_input(makeInputMonitor(m_x11.get(), *m_workspace))
-    , m_hotKeys(makeHotKeys(m_x11.get()))
+    , m_input(makeInputMonitor(m_x11.get(), m_x11Keyboard.get(), *m_workspace))
+    , m_hotKeys(makeHotKeys(m_x11.get(), m_x11Keyboard.get()))
     , m_model(modelDependencies())
     , m_urlLoader(privateFile(u"keyvora-update-fetch"_s))
     , m_updates(m_defaults, m_urlLoader, QCoreApplication::applicationVersion(), &QDesktopServices::openUrl)
@@ -234,7 +242,7 @@ UserInterface::Context KeyvoraApp::userInterfaceContext()
 {
     m_appearance = std::make_unique<PortalAppearance>(QDBusConnection::sessionBus());
     m_compositor = makeCompositor(m_x11.get());
-    m_keyboardLayout = makeKeyboardLayout(m_x11.get());
+    m_keyboardLayout = makeKeyboardLayout(m_x11.get(), m_x11Keyboard.get());
     m_grabFocusFilter = std::make_unique<X11GrabFocusFilter>();
     return {
         .model = m_model,

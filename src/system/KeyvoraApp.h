@@ -34,6 +34,7 @@ class Compositor;
 class KeyboardLayout;
 class X11Connection;
 class X11GrabFocusFilter;
+class X11Keyboard;
 
 /// Builds the program once, from the bottom up, owns all of it and wires it. The only place that names the
 /// desktop's own classes.
@@ -62,6 +63,7 @@ private:
     Defaults m_windowFrames;
     Localization m_localization;
     std::unique_ptr<X11Connection> m_x11;
+    std::unique_ptr<X11Keyboard> m_x11Keyboard; ///< as long as there is a connection
     std::unique_ptr<Workspace> m_workspace;
     XdgAutostart m_loginItem;
     AtspiAccessibility m_accessibility;

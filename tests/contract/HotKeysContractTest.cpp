@@ -8,6 +8,7 @@
 #include "fakes/FakeHotKeys.h"
 #include "platform/NullHotKeys.h"
 #include "platform/linux/X11HotKeys.h"
+#include "platform/linux/X11Keyboard.h"
 
 #include <X11/keysym.h>
 #include <functional>
@@ -82,7 +83,8 @@ private:
     X11Desktop m_desktop{m_screen.display()};
     X11Input m_input{m_screen.display()};
     std::unique_ptr<X11Connection> m_connection = m_screen.open();
-    X11HotKeys m_hotKeys{*m_connection};
+    X11Keyboard m_keyboard{*m_connection};
+    X11HotKeys m_hotKeys{*m_connection, m_keyboard};
 };
 
 struct Row

@@ -9,6 +9,7 @@
 #include "fakes/FakeInputMonitor.h"
 #include "platform/NullInputMonitor.h"
 #include "platform/linux/X11InputMonitor.h"
+#include "platform/linux/X11Keyboard.h"
 
 #include <X11/keysym.h>
 #include <functional>
@@ -108,7 +109,8 @@ private:
     OtherProgram m_menu{m_screen, OtherProgram::Window::Popup, {100, 100, 50, 50}};
     X11Input m_input{m_screen.display()};
     std::unique_ptr<X11Connection> m_connection = m_screen.open();
-    X11InputMonitor m_monitor{*m_connection, [] {
+    X11Keyboard m_keyboard{*m_connection};
+    X11InputMonitor m_monitor{*m_connection, m_keyboard, [] {
                                   return false;
                               }};
 };

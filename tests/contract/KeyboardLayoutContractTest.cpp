@@ -6,6 +6,7 @@
 #include "contract/X11Input.h"
 #include "fakes/FakeKeyboardLayout.h"
 #include "platform/NullKeyboardLayout.h"
+#include "platform/linux/X11Keyboard.h"
 #include "platform/linux/X11KeyboardLayout.h"
 
 #include <X11/keysym.h>
@@ -74,7 +75,8 @@ public:
 private:
     BareScreen m_screen;
     std::unique_ptr<X11Connection> m_connection = m_screen.open();
-    X11KeyboardLayout m_layout{*m_connection};
+    X11Keyboard m_keyboard{*m_connection};
+    X11KeyboardLayout m_layout{*m_connection, m_keyboard};
 };
 
 struct DesktopMaker

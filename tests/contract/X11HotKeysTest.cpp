@@ -7,6 +7,7 @@
 #include "contract/Settling.h"
 #include "contract/X11Desktop.h"
 #include "contract/X11Input.h"
+#include "platform/linux/X11Keyboard.h"
 #include "unit/QtPrinters.h"
 
 #include <X11/keysym.h>
@@ -33,7 +34,7 @@ protected:
 
     X11HotKeys &makeHotKeys()
     {
-        m_hotKeys = std::make_unique<X11HotKeys>(*m_connection);
+        m_hotKeys = std::make_unique<X11HotKeys>(*m_connection, m_keyboard);
         QObject::connect(m_hotKeys.get(), &HotKeys::pressed, m_hotKeys.get(),
                          [this](const QString &token) { m_tokens.append(token); });
         return *m_hotKeys;
@@ -79,6 +80,7 @@ private:
     X11Desktop m_desktop{m_screen.display()};
     X11Input m_input{m_screen.display()};
     std::unique_ptr<X11Connection> m_connection = m_screen.open();
+    X11Keyboard m_keyboard{*m_connection};
     std::unique_ptr<X11HotKeys> m_hotKeys;
     QStringList m_tokens;
 };

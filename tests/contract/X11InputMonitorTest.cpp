@@ -9,6 +9,7 @@
 #include "contract/Settling.h"
 #include "contract/X11Desktop.h"
 #include "contract/X11Input.h"
+#include "platform/linux/X11Keyboard.h"
 
 #include <X11/keysym.h>
 #include <functional>
@@ -43,7 +44,8 @@ protected:
 
     X11InputMonitor &makeMonitor()
     {
-        m_monitor = std::make_unique<X11InputMonitor>(*m_connection, [this] { return m_hasOwnFocus; });
+        m_monitor =
+            std::make_unique<X11InputMonitor>(*m_connection, m_keyboard, [this] { return m_hasOwnFocus; });
         QObject::connect(m_monitor.get(), &InputMonitor::modifiersChanged, m_monitor.get(),
                          [this](KeyModifiers modifiers) { m_told.append(modifiers); });
         QObject::connect(m_monitor.get(), &InputMonitor::popupPressed, m_monitor.get(),
@@ -110,6 +112,7 @@ private:
     X11Desktop m_desktop{m_screen.display()};
     X11Input m_input{m_screen.display()};
     std::unique_ptr<X11Connection> m_connection = m_screen.open();
+    X11Keyboard m_keyboard{*m_connection};
     std::unique_ptr<X11InputMonitor> m_monitor;
     bool m_hasOwnFocus = false;
     Told m_told;
@@ -438,7 +441,8 @@ TEST(X11InputMonitorWithoutExtensions, IsNotAvailable)
     const BareScreen screen({u"-extension"_s, u"X-Resource"_s});
     const auto connection = screen.open();
     ASSERT_NE(connection, nullptr);
-    X11InputMonitor monitor(*connection, [] { return false; });
+    X11Keyboard keyboard(*connection);
+    X11InputMonitor monitor(*connection, keyboard, [] { return false; });
     EXPECT_FALSE(monitor.isAvailable());
     bool isTold = false;
     QObject::connect(&monitor, &InputMonitor::modifiersChanged, &monitor, [&] { isTold = true; });

@@ -14,6 +14,7 @@
 #include "platform/linux/X11GrabFocusFilter.h"
 #include "platform/linux/X11HotKeys.h"
 #include "platform/linux/X11InputMonitor.h"
+#include "platform/linux/X11Keyboard.h"
 #include "platform/linux/X11KeyboardLayout.h"
 #include "platform/linux/X11Workspace.h"
 #include "system/HoldToShowObserver.h"
@@ -151,7 +152,8 @@ private:
     Localization m_localization{m_defaults, {u"en-US"_s}};
     std::unique_ptr<X11Connection> m_connection = X11Connection::open();
     X11GrabFocusFilter m_grabFocusFilter;
-    X11KeyboardLayout m_layout{*m_connection};
+    X11Keyboard m_keyboard{*m_connection};
+    X11KeyboardLayout m_layout{*m_connection, m_keyboard};
     KeyReader m_reader{m_layout};
     X11Input m_input{qgetenv("DISPLAY")};
     X11Desktop m_desktop{qgetenv("DISPLAY")};
@@ -284,11 +286,12 @@ TEST_F(KeyCaptureTest, KeepsKeysThatOtherProgramsHaveTaken)
 
 TEST_F(KeyCaptureTest, KeepsTheProgramsOwnHotKeyAndHold)
 {
-    X11HotKeys hotKeys(connection());
+    X11Keyboard keyboard(connection());
+    X11HotKeys hotKeys(connection(), keyboard);
     const QSignalSpy calls(&hotKeys, &HotKeys::pressed);
     hotKeys.registerHotKey();
     X11Workspace workspace(connection(), ApplicationNames({}, {}));
-    X11InputMonitor monitor(connection(), [&] {
+    X11InputMonitor monitor(connection(), keyboard, [&] {
         const auto frontmost = workspace.frontmostApplication();
         return frontmost && frontmost->pid == static_cast<qint32>(QCoreApplication::applicationPid());
     });

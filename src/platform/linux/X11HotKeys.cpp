@@ -4,6 +4,7 @@
 #include "platform/linux/X11HotKeys.h"
 
 #include "platform/linux/X11Connection.h"
+#include "platform/linux/X11Keyboard.h"
 #include "platform/linux/XcbXkb.h"
 
 #include <QPointer>
@@ -14,10 +15,10 @@ namespace keyvora {
 
 using namespace Qt::Literals::StringLiterals;
 
-X11HotKeys::X11HotKeys(X11Connection &connection, QObject *parent)
+X11HotKeys::X11HotKeys(X11Connection &connection, X11Keyboard &keyboard, QObject *parent)
     : HotKeys(parent)
     , m_connection(connection)
-    , m_keyboard(connection)
+    , m_keyboard(keyboard)
 {
     connect(&m_connection, &X11Connection::eventReceived, this, &X11HotKeys::handleEvent);
     connect(&m_keyboard, &X11Keyboard::mappingChanged, this, &X11HotKeys::followMapping);

@@ -4,7 +4,6 @@
 #pragma once
 
 #include "platform/HotKeys.h"
-#include "platform/linux/X11Keyboard.h"
 
 #include <QList>
 
@@ -13,6 +12,7 @@
 namespace keyvora {
 
 class X11Connection;
+class X11Keyboard;
 
 /// Grabs the combination on the root window. A grab holds for exactly one set of modifiers, so that there is
 /// one for each state of the locks, and the combination is ours only when all of them are.
@@ -21,8 +21,8 @@ class X11HotKeys : public HotKeys
     Q_OBJECT
 
 public:
-    /// The connection outlives the hot keys, and nobody else grabs keys over it.
-    explicit X11HotKeys(X11Connection &connection, QObject *parent = nullptr);
+    /// The connection and its keyboard outlive the hot keys, and nobody else grabs keys over it.
+    X11HotKeys(X11Connection &connection, X11Keyboard &keyboard, QObject *parent = nullptr);
     ~X11HotKeys() override;
 
     void registerHotKey() override;
@@ -46,7 +46,7 @@ private:
     void handleEvent(const xcb_generic_event_t *event);
 
     X11Connection &m_connection;
-    X11Keyboard m_keyboard;
+    X11Keyboard &m_keyboard;
     bool m_isWanted = false;
     bool m_isRegistered = false;
     QList<Grab> m_grabs;        ///< those that were asked for

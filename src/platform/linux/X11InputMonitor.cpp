@@ -4,6 +4,7 @@
 #include "platform/linux/X11InputMonitor.h"
 
 #include "platform/linux/X11Connection.h"
+#include "platform/linux/X11Keyboard.h"
 #include "platform/linux/XcbXkb.h"
 
 #include <QCoreApplication>
@@ -43,11 +44,12 @@ bool isHold(KeyModifiers modifiers)
 
 } // namespace
 
-X11InputMonitor::X11InputMonitor(X11Connection &connection, OwnFocus hasOwnFocus, QObject *parent)
+X11InputMonitor::X11InputMonitor(X11Connection &connection, X11Keyboard &keyboard, OwnFocus hasOwnFocus,
+                                 QObject *parent)
     : InputMonitor(parent)
     , m_connection(connection)
     , m_hasOwnFocus(std::move(hasOwnFocus))
-    , m_keyboard(connection)
+    , m_keyboard(keyboard)
 {
     connect(&m_connection, &X11Connection::eventReceived, this, &X11InputMonitor::handleEvent);
     askForButtons();

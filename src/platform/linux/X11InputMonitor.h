@@ -4,7 +4,6 @@
 #pragma once
 
 #include "platform/InputMonitor.h"
-#include "platform/linux/X11Keyboard.h"
 
 #include <functional>
 #include <optional>
@@ -13,6 +12,7 @@
 namespace keyvora {
 
 class X11Connection;
+class X11Keyboard;
 
 /// Watches through the keyboard extension, whose state events carry modifiers and no keys, and through raw
 /// button events, which arrive whoever has grabbed the pointer. A popup is a window that the window manager
@@ -27,8 +27,9 @@ public:
     /// Whether a window of our own has the focus.
     using OwnFocus = std::function<bool()>;
 
-    /// Asks the server at once what it can do. The connection outlives the monitor.
-    X11InputMonitor(X11Connection &connection, OwnFocus hasOwnFocus, QObject *parent = nullptr);
+    /// Asks the server at once what it can do. The connection and its keyboard outlive the monitor.
+    X11InputMonitor(X11Connection &connection, X11Keyboard &keyboard, OwnFocus hasOwnFocus,
+                    QObject *parent = nullptr);
 
     [[nodiscard]] bool isAvailable() const override;
     void watchModifiers() override;
@@ -48,7 +49,7 @@ private:
 
     X11Connection &m_connection;
     OwnFocus m_hasOwnFocus;
-    X11Keyboard m_keyboard;
+    X11Keyboard &m_keyboard;
     bool m_hasRawEvents = false;
     bool m_hasClientIds = false;
     bool m_watchesModifiers = false;

@@ -75,7 +75,8 @@ void X11Keyboard::useExtension()
             self->m_hasExtension = reply != nullptr && reply->supported != 0;
     });
     // Whoever uses the extension is not told by core events any more when another keyboard takes over.
-    constexpr uint16_t mapParts = XCB_XKB_MAP_PART_KEY_SYMS | XCB_XKB_MAP_PART_MODIFIER_MAP;
+    constexpr uint16_t mapParts =
+        XCB_XKB_MAP_PART_KEY_TYPES | XCB_XKB_MAP_PART_KEY_SYMS | XCB_XKB_MAP_PART_MODIFIER_MAP;
     const xcb_xkb_select_events_details_t noDetails{};
     xcb_xkb_select_events_aux(m_connection.xcb(), XCB_XKB_ID_USE_CORE_KBD,
                               XCB_XKB_EVENT_TYPE_NEW_KEYBOARD_NOTIFY | XCB_XKB_EVENT_TYPE_MAP_NOTIFY, 0,
@@ -90,6 +91,7 @@ void X11Keyboard::handleEvent(const xcb_generic_event_t *event)
                            (event->pad0 == XCB_XKB_NEW_KEYBOARD_NOTIFY || event->pad0 == XCB_XKB_MAP_NOTIFY));
     if (!isChange)
         return;
+    emit mapChanged();
     // Changes come in bursts, one for each key.
     if (m_isReading)
         m_isStale = true;

@@ -42,6 +42,8 @@ public:
     [[nodiscard]] bool hasExtension() const { return m_hasExtension; }
 
 signals:
+    /// The server has another map of the keys now, or of their modifiers.
+    void mapChanged();
     /// The mapping became known or is another one now.
     void mappingChanged();
 

@@ -4,6 +4,7 @@
 #include "platform/linux/X11KeyboardLayout.h"
 
 #include "platform/linux/X11Connection.h"
+#include "platform/linux/X11Keyboard.h"
 #include "platform/linux/XcbXkb.h"
 
 #include <QPointer>
@@ -103,22 +104,13 @@ XkbKeyMap readKeys(const xcb_xkb_get_map_reply_t &reply)
 
 } // namespace
 
-X11KeyboardLayout::X11KeyboardLayout(X11Connection &connection, QObject *parent)
+X11KeyboardLayout::X11KeyboardLayout(X11Connection &connection, const X11Keyboard &keyboard, QObject *parent)
     : QObject(parent)
     , m_connection(connection)
 {
-    const xcb_query_extension_reply_t *extension = m_connection.extension(xcb_xkb_id);
-    if (extension == nullptr)
+    if (m_connection.extension(xcb_xkb_id) == nullptr)
         return;
-    m_extensionEvent = extension->first_event;
-    connect(&m_connection, &X11Connection::eventReceived, this, &X11KeyboardLayout::handleEvent);
-    const auto cookie =
-        xcb_xkb_use_extension(m_connection.xcb(), XCB_XKB_MAJOR_VERSION, XCB_XKB_MINOR_VERSION);
-    m_connection.expectReply(cookie.sequence, [](const void * /*reply*/) {});
-    const xcb_xkb_select_events_details_t noDetails{};
-    xcb_xkb_select_events_aux(m_connection.xcb(), XCB_XKB_ID_USE_CORE_KBD,
-                              XCB_XKB_EVENT_TYPE_NEW_KEYBOARD_NOTIFY | XCB_XKB_EVENT_TYPE_MAP_NOTIFY, 0,
-                              XCB_XKB_EVENT_TYPE_NEW_KEYBOARD_NOTIFY, mapParts, mapParts, &noDetails);
+    connect(&keyboard, &X11Keyboard::mapChanged, this, &X11KeyboardLayout::followMap);
     readMap();
 }
 
@@ -128,13 +120,8 @@ std::optional<KeyboardLayout::Key> X11KeyboardLayout::key(quint32 scanCode, quin
     return m_map ? m_map->key(scanCode, symbol, state) : std::nullopt;
 }
 
-void X11KeyboardLayout::handleEvent(const xcb_generic_event_t *event)
+void X11KeyboardLayout::followMap()
 {
-    // The extension's events have one type and, in the place that others use for details, their kind.
-    const bool isChange = event->response_type == m_extensionEvent &&
-                          (event->pad0 == XCB_XKB_NEW_KEYBOARD_NOTIFY || event->pad0 == XCB_XKB_MAP_NOTIFY);
-    if (!isChange)
-        return;
     if (m_isReading)
         m_isStale = true;
     else
