@@ -3,16 +3,13 @@
 
 #pragma once
 
-#include "ui/KeyvoraView.h"
+#include "ui/FloatingWindow.h"
 
 namespace keyvora {
 
-class Compositor;
-
 /// A small window in the top right corner of the main screen: above all others, on every workspace, and never
-/// with the focus. Its content has a size of its own, and a property `isRounded` that says whether its
-/// corners may be round.
-class CornerWindow : public KeyvoraView
+/// with the focus.
+class CornerWindow : public FloatingWindow
 {
     Q_OBJECT
 
@@ -29,9 +26,7 @@ public:
 
 private:
     void place();
-    void followCompositor();
 
-    const Compositor &m_compositor;
     int m_offset = 0;
 };
 

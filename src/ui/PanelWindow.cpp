@@ -3,11 +3,8 @@
 
 #include "ui/PanelWindow.h"
 
-#include "platform/Compositor.h"
-
 #include <QCursor>
 #include <QGuiApplication>
-#include <QQuickItem>
 #include <QScreen>
 
 #include <utility>
@@ -29,16 +26,11 @@ QList<ScreenArea> screenAreas()
 
 PanelWindow::PanelWindow(QQmlEngine *engine, QObject *theme, const Compositor &compositor,
                          PanelReclick::Clock clock)
-    : KeyvoraView(engine, theme)
-    , m_compositor(compositor)
+    : FloatingWindow(engine, theme, compositor, Qt::Tool)
     , m_reclick(std::move(clock))
 {
-    setFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
-    setColor(Qt::transparent);
-    setResizeMode(QQuickView::SizeViewToRootObject);
     connect(this, &QWindow::heightChanged, this, &PanelWindow::place);
     connect(this, &QWindow::activeChanged, this, &PanelWindow::followFocus);
-    connect(&m_compositor, &Compositor::isRunningChanged, this, &PanelWindow::followCompositor);
 }
 
 void PanelWindow::toggle(QPoint click, const QString &activationToken, const Activation &activate)
@@ -52,11 +44,9 @@ void PanelWindow::toggle(QPoint click, const QString &activationToken, const Act
 void PanelWindow::open(QPoint click, const QString &activationToken, const Activation &activate)
 {
     emit opening();
-    followCompositor();
     // Hosts count in the screen's own pixels; where the toolkit does not, the pointer is where the click was.
     m_anchor = panelAnchor(qApp->devicePixelRatio() == 1 ? click : QPoint(), QCursor::pos(), screenAreas());
-    // The view follows its content only when the event loop runs again.
-    resize(rootObject()->size().toSize());
+    fitContent();
     place();
     bringToFront(activationToken, activate);
 }
@@ -64,11 +54,6 @@ void PanelWindow::open(QPoint click, const QString &activationToken, const Activ
 void PanelWindow::place()
 {
     setPosition(panelPosition(size(), m_anchor));
-}
-
-void PanelWindow::followCompositor()
-{
-    rootObject()->setProperty("isRounded", m_compositor.isRunning());
 }
 
 void PanelWindow::followFocus()

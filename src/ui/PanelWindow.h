@@ -3,17 +3,14 @@
 
 #pragma once
 
-#include "ui/KeyvoraView.h"
+#include "ui/FloatingWindow.h"
 #include "ui/PanelPlacement.h"
 #include "ui/PanelReclick.h"
 
 namespace keyvora {
 
-class Compositor;
-
 /// The window of the tray icon's panel. Stands beside the icon, has the focus, and closes when it loses it.
-/// Its content has a size of its own, and a property `isRounded` that says whether its corners may be round.
-class PanelWindow : public KeyvoraView
+class PanelWindow : public FloatingWindow
 {
     Q_OBJECT
 
@@ -34,10 +31,8 @@ signals:
 private:
     void open(QPoint click, const QString &activationToken, const Activation &activate);
     void place();
-    void followCompositor();
     void followFocus();
 
-    const Compositor &m_compositor;
     PanelReclick m_reclick;
     PanelAnchor m_anchor;
 };

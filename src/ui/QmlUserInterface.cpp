@@ -70,6 +70,17 @@ Settings::BackupCommands backupCommands(AppModel &model)
     };
 }
 
+/// What the small windows show: a component that is given the model, and what its buttons do.
+void setContent(QQuickView &view, const QString &name, AppModel &model, QObject &controller)
+{
+    view.setTitle(u"Keyvora"_s);
+    view.setInitialProperties({
+        {u"appModel"_s, QVariant::fromValue(&model)},
+        {u"controller"_s, QVariant::fromValue(&controller)},
+    });
+    view.setSource(component(name));
+}
+
 /// Screen readers hear of an item that comes into being, but not of one whose window is shown again.
 void announceAgain(const QQuickView &view)
 {
@@ -205,12 +216,7 @@ void QmlUserInterface::togglePanel(QPoint position, const QString &activationTok
 void QmlUserInterface::makePanel()
 {
     m_panel = std::make_unique<PanelWindow>(&m_engine, theme(), m_context.compositor);
-    m_panel->setTitle(u"Keyvora"_s);
-    m_panel->setInitialProperties({
-        {u"appModel"_s, QVariant::fromValue(&m_context.model)},
-        {u"controller"_s, QVariant::fromValue(&m_panelController)},
-    });
-    m_panel->setSource(component(u"MenuBarView"_s));
+    setContent(*m_panel, u"MenuBarView"_s, m_context.model, m_panelController);
     QObject::connect(m_panel.get(), &PanelWindow::opening, &m_panelController, &PanelController::present);
     QObject::connect(&m_panelController, &PanelController::dismissed, m_panel.get(), &QWindow::hide);
     keepOverlayBelowPanel();
@@ -237,12 +243,7 @@ bool QmlUserInterface::isOverlayVisible() const
 void QmlUserInterface::makeOverlay()
 {
     m_overlay = std::make_unique<CornerWindow>(&m_engine, theme(), m_context.compositor);
-    m_overlay->setTitle(u"Keyvora"_s);
-    m_overlay->setInitialProperties({
-        {u"appModel"_s, QVariant::fromValue(&m_context.model)},
-        {u"controller"_s, QVariant::fromValue(&m_overlayController)},
-    });
-    m_overlay->setSource(component(u"ContextOverlayView"_s));
+    setContent(*m_overlay, u"ContextOverlayView"_s, m_context.model, m_overlayController);
     keepOverlayBelowPanel();
     keepNoticeBelowOverlay();
 }
@@ -284,12 +285,7 @@ void QmlUserInterface::showSuggestion()
 void QmlUserInterface::makeNotice()
 {
     m_notice = std::make_unique<CornerWindow>(&m_engine, theme(), m_context.compositor);
-    m_notice->setTitle(u"Keyvora"_s);
-    m_notice->setInitialProperties({
-        {u"appModel"_s, QVariant::fromValue(&m_context.model)},
-        {u"controller"_s, QVariant::fromValue(&m_noticeController)},
-    });
-    m_notice->setSource(component(u"SuggestionNotice"_s));
+    setContent(*m_notice, u"SuggestionNotice"_s, m_context.model, m_noticeController);
     QObject::connect(&m_noticeController, &NoticeController::dismissed, m_notice.get(), &QWindow::hide);
     keepNoticeBelowOverlay();
 }
