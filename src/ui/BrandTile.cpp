@@ -53,13 +53,11 @@ void BrandTile::setSide(qreal side)
 
 QSGNode *BrandTile::updatePaintNode(QSGNode *old, UpdatePaintNodeData * /*data*/)
 {
-    if (size().isEmpty()) {
-        delete old;
-        return nullptr;
+    auto *node = PixelNode::keptOrNew<Node>(old, !size().isEmpty(), window());
+    if (node != nullptr) {
+        node->setPlace(boundingRect());
+        node->markDirty(QSGNode::DirtyMaterial);
     }
-    Node *node = old != nullptr ? static_cast<Node *>(old) : new Node(window());
-    node->setPlace(boundingRect());
-    node->markDirty(QSGNode::DirtyMaterial);
     return node;
 }
 

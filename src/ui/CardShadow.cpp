@@ -163,12 +163,9 @@ CardShadow::CardShadow(QQuickItem *parent)
 
 QSGNode *CardShadow::updatePaintNode(QSGNode *old, UpdatePaintNodeData * /*data*/)
 {
-    if (size().isEmpty()) {
-        delete old;
-        return nullptr;
-    }
-    Node *node = old != nullptr ? static_cast<Node *>(old) : new Node(window());
-    node->set(boundingRect(), {m_cornerRadius, m_blur, m_offset, m_percent});
+    auto *node = PixelNode::keptOrNew<Node>(old, !size().isEmpty(), window());
+    if (node != nullptr)
+        node->set(boundingRect(), {m_cornerRadius, m_blur, m_offset, m_percent});
     return node;
 }
 

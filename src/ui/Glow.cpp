@@ -49,12 +49,9 @@ Glow::Glow(QQuickItem *parent)
 
 QSGNode *Glow::updatePaintNode(QSGNode *old, UpdatePaintNodeData * /*data*/)
 {
-    if (size().isEmpty() || m_radius <= 0) {
-        delete old;
-        return nullptr;
-    }
-    Node *node = old != nullptr ? static_cast<Node *>(old) : new Node(window());
-    node->set(boundingRect(), {m_color, m_radius, m_middle});
+    auto *node = PixelNode::keptOrNew<Node>(old, !size().isEmpty() && m_radius > 0, window());
+    if (node != nullptr)
+        node->set(boundingRect(), {m_color, m_radius, m_middle});
     return node;
 }
 

@@ -209,12 +209,10 @@ qreal KeyCapRow::placeCaps()
 
 QSGNode *KeyCapRow::updatePaintNode(QSGNode *old, UpdatePaintNodeData * /*data*/)
 {
-    if (m_caps.isEmpty()) {
-        delete old;
+    auto *node = PixelNode::keptOrNew<Node>(old, !m_caps.isEmpty(), window());
+    if (node == nullptr)
         return nullptr;
-    }
     const Measures &measures = measuresOf(m_hasSmallCaps);
-    Node *node = old != nullptr ? static_cast<Node *>(old) : new Node(window());
     const Look look{m_hasSmallCaps,
                     {m_fill, measures.radius, m_outlineWidth, m_outline},
                     fontOf(measures, m_weight),

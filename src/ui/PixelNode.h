@@ -23,6 +23,18 @@ public:
     [[nodiscard]] RenderingFlags flags() const override { return BoundedRectRendering; }
     void render(const RenderState *state) override;
 
+    /// The node that an item goes on with: the one it had, or a new one. Null where the item draws nothing;
+    /// the one it had is gone then.
+    template <typename Node>
+    static Node *keptOrNew(QSGNode *old, bool isDrawn, QQuickWindow *window)
+    {
+        if (!isDrawn) {
+            delete old;
+            return nullptr;
+        }
+        return old != nullptr ? static_cast<Node *>(old) : new Node(window);
+    }
+
 protected:
     /// What is drawn lies within this place, in units of the item.
     void setPlace(const QRectF &place);

@@ -83,12 +83,10 @@ RoundedRectangle::RoundedRectangle(QQuickItem *parent)
 QSGNode *RoundedRectangle::updatePaintNode(QSGNode *old, UpdatePaintNodeData * /*data*/)
 {
     const bool hasBorder = m_borderWidth > 0 && m_borderColor.alpha() > 0;
-    if (size().isEmpty() || (m_color.alpha() == 0 && !hasBorder)) {
-        delete old;
-        return nullptr;
-    }
-    Node *node = old != nullptr ? static_cast<Node *>(old) : new Node(window());
-    node->set(boundingRect(), {m_color, m_radius, hasBorder ? m_borderWidth : 0, m_borderColor});
+    const bool isDrawn = !size().isEmpty() && (m_color.alpha() > 0 || hasBorder);
+    auto *node = PixelNode::keptOrNew<Node>(old, isDrawn, window());
+    if (node != nullptr)
+        node->set(boundingRect(), {m_color, m_radius, hasBorder ? m_borderWidth : 0, m_borderColor});
     return node;
 }
 

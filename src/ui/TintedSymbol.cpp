@@ -60,12 +60,9 @@ void TintedSymbol::adopt()
 
 QSGNode *TintedSymbol::updatePaintNode(QSGNode *old, UpdatePaintNodeData * /*data*/)
 {
-    if (size().isEmpty() || m_name.isEmpty()) {
-        delete old;
-        return nullptr;
-    }
-    Node *node = old != nullptr ? static_cast<Node *>(old) : new Node(window());
-    node->set(boundingRect(), m_name, m_color);
+    auto *node = PixelNode::keptOrNew<Node>(old, !size().isEmpty() && !m_name.isEmpty(), window());
+    if (node != nullptr)
+        node->set(boundingRect(), m_name, m_color);
     return node;
 }
 
