@@ -75,6 +75,23 @@ FocusScope {
         root.offerTrust(window);
     }
 
+    // Where the person is in what is longer than the window, for the content that takes this one's place.
+    function place(): var {
+        return {
+            "libraryY": library.contentY,
+            "libraryRow": library.currentRow,
+            "section": page.section,
+            "pageY": page.item === null ? 0 : (page.item as ScrollPage).contentY
+        };
+    }
+
+    // Goes there, once everything has its size.
+    function resume(place: var): void {
+        library.resume(place.libraryY, place.libraryRow);
+        if (page.item !== null && page.section === place.section)
+            (page.item as ScrollPage).scrollTo(place.pageY);
+    }
+
     // Moves the keyboard into what the section shows.
     function focusPage(): void {
         if (root.showsLibrary)

@@ -19,6 +19,14 @@ FocusScope {
         root.focusCards();
     }
 
+    readonly property alias contentY: grid.contentY
+    readonly property alias currentRow: grid.currentIndex
+
+    // Goes to where another library was.
+    function resume(contentY: real, row: int): void {
+        grid.resume(contentY, row);
+    }
+
     // Moves the keyboard into the cards.
     function focusCards(): void {
         if (grid.count > 0)

@@ -191,6 +191,20 @@ void QmlUserInterface::makeMainWindow()
     // The about window may have been open longer than a closed main window is kept.
     QObject::connect(m_mainWindow->rootObject(), SIGNAL(isInterruptedChanged()), &m_discardTimer,
                      SLOT(start()));
+    resumeLeftPlace();
+}
+
+void QmlUserInterface::resumeLeftPlace()
+{
+    if (!m_leftPlace.isValid())
+        return;
+    // By the first frame everything has its size.
+    QObject::connect(
+        m_mainWindow.get(), &QQuickWindow::afterAnimating, m_mainWindow->rootObject(),
+        [content = m_mainWindow->rootObject(), place = std::exchange(m_leftPlace, {})] {
+            QMetaObject::invokeMethod(content, "resume", Q_ARG(QVariant, place));
+        },
+        Qt::SingleShotConnection);
 }
 
 void QmlUserInterface::discardMainWindow()
@@ -199,6 +213,7 @@ void QmlUserInterface::discardMainWindow()
     if (!m_mainWindow || m_mainWindow->isVisible() ||
         m_mainWindow->rootObject()->property("isInterrupted").toBool())
         return;
+    QMetaObject::invokeMethod(m_mainWindow->rootObject(), "place", Q_RETURN_ARG(QVariant, m_leftPlace));
     m_mainWindowFrame.reset();
     m_mainWindow.reset();
     m_engine.trimComponentCache();

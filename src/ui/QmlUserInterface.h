@@ -56,6 +56,8 @@ private:
     void makeMainView();
     void makeMainWindow();
     void discardMainWindow();
+    /// Scrolls the new main window to where the person was in the one before.
+    void resumeLeftPlace();
     void makePanel();
     void makeOverlay();
     void makeNotice();
@@ -81,6 +83,7 @@ private:
     std::unique_ptr<KeyvoraView> m_mainWindow;
     std::unique_ptr<WindowFrame> m_mainWindowFrame;
     QTimer m_discardTimer;
+    QVariant m_leftPlace; ///< in the content of the main window that was discarded
     std::unique_ptr<PanelWindow> m_panel;
     std::unique_ptr<CornerWindow> m_overlay;
     std::unique_ptr<CornerWindow> m_notice;

@@ -12,6 +12,7 @@ FocusScope {
     default property alias content: column.data
     property alias spacing: column.spacing
 
+    readonly property alias contentY: flickable.contentY
     readonly property int padding: 22
     readonly property int lineStep: 60
 

@@ -35,6 +35,15 @@ GridView {
             root.positionViewAtIndex(root.revealedRow, GridView.Center);
     }
 
+    // Goes to where another grid was, unless it was told already where to be.
+    function resume(contentY: real, row: int): void {
+        if (root.revealedRow >= 0)
+            return;
+        root.forceLayout();
+        root.currentIndex = Math.min(row, root.count - 1);
+        root.contentY = Math.max(-root.topMargin, Math.min(contentY, root.contentHeight + root.bottomMargin - root.height));
+    }
+
     // The spacing right of the last column and below the last row is part of their cells.
     leftMargin: root.padding
     rightMargin: root.padding - root.spacing

@@ -95,6 +95,16 @@ protected:
         return found == windows.end() ? nullptr : qobject_cast<QQuickView *>(*found);
     }
 
+    /// What a window shows of a QML type; null where it shows none.
+    static QObject *find(const QQuickView &window, const char *type)
+    {
+        const QObjectList content = window.rootObject()->findChildren<QObject *>();
+        const auto found = std::ranges::find_if(content, [type](const QObject *child) {
+            return QByteArray(child->metaObject()->className()).startsWith(type);
+        });
+        return found == content.end() ? nullptr : *found;
+    }
+
     /// Where the corner of the main screen is.
     static QPoint corner()
     {
@@ -217,6 +227,62 @@ TEST_F(QmlUserInterfaceTest, AMainWindowThatStaysClosedIsMadeAnewInItsPlace)
     EXPECT_EQ(u"paste"_s, model().search());
 }
 
+TEST_F(QmlUserInterfaceTest, AMainWindowThatIsMadeAnewShowsWhatTheOneBeforeShowed)
+{
+    keepNoClosedWindow();
+    userInterface().showMainWindow({});
+    const QPointer<QQuickView> window = mainWindow();
+    ASSERT_TRUE(becomesTrue([&] { return window->isExposed(); }));
+    QObject *cards = find(*window, "ShortcutGrid");
+    ASSERT_NE(nullptr, cards);
+    cards->setProperty("currentIndex", 17);
+    cards->setProperty("contentY", 480);
+    window->hide();
+    ASSERT_TRUE(becomesTrue([&] { return window.isNull(); }));
+
+    userInterface().showMainWindow({});
+    const QObject *newCards = find(*mainWindow(), "ShortcutGrid");
+    EXPECT_TRUE(becomesTrue([&] { return newCards->property("contentY").toReal() == 480; }));
+    EXPECT_EQ(17, newCards->property("currentIndex").toInt());
+}
+
+TEST_F(QmlUserInterfaceTest, AScreenOfAMainWindowThatIsMadeAnewIsWhereItWasScrolledTo)
+{
+    keepNoClosedWindow();
+    model().setSelection({.kind = SidebarSelection::Kind::firstAid});
+    userInterface().showMainWindow({});
+    const QPointer<QQuickView> window = mainWindow();
+    ASSERT_TRUE(becomesTrue([&] { return window->isExposed(); }));
+    QObject *screen = find(*window, "FirstAidView");
+    ASSERT_NE(nullptr, screen);
+    bool hasScrolled = false;
+    QMetaObject::invokeMethod(screen, "scrollTo", Q_RETURN_ARG(bool, hasScrolled), Q_ARG(double, 150));
+    ASSERT_TRUE(hasScrolled);
+    window->hide();
+    ASSERT_TRUE(becomesTrue([&] { return window.isNull(); }));
+
+    userInterface().showMainWindow({});
+    screen = find(*mainWindow(), "FirstAidView");
+    ASSERT_NE(nullptr, screen);
+    EXPECT_TRUE(becomesTrue([&] { return screen->property("contentY").toReal() == 150; }));
+}
+
+TEST_F(QmlUserInterfaceTest, AMainWindowThatIsMadeAnewShowsWhatItIsOpenedFor)
+{
+    keepNoClosedWindow();
+    userInterface().showMainWindow({});
+    const QPointer<QQuickView> window = mainWindow();
+    ASSERT_TRUE(becomesTrue([&] { return window->isExposed(); }));
+    find(*window, "ShortcutGrid")->setProperty("contentY", 480);
+    window->hide();
+    ASSERT_TRUE(becomesTrue([&] { return window.isNull(); }));
+
+    userInterface().showMainWindow({});
+    model().revealShortcut(u"copy"_s);
+    ASSERT_TRUE(becomesTrue([&] { return mainWindow()->isExposed(); }));
+    EXPECT_LT(find(*mainWindow(), "ShortcutGrid")->property("contentY").toReal(), 100);
+}
+
 TEST_F(QmlUserInterfaceTest, AMainWindowThatIsShownAgainInTimeStays)
 {
     keepNoClosedWindow();
@@ -252,12 +318,9 @@ TEST_F(QmlUserInterfaceTest, AClosedMainWindowGoesOnceWhatKeptItIsOver)
     QCoreApplication::processEvents();
     QCoreApplication::processEvents();
     ASSERT_FALSE(window.isNull());
-    const QObjectList content = window->rootObject()->findChildren<QObject *>();
-    const auto prompt = std::ranges::find_if(content, [](const QObject *child) {
-        return QByteArray(child->metaObject()->className()).startsWith("TrustPrompt");
-    });
-    ASSERT_NE(prompt, content.end());
-    ASSERT_TRUE(QMetaObject::invokeMethod(*prompt, "close"));
+    QObject *prompt = find(*window, "TrustPrompt");
+    ASSERT_NE(nullptr, prompt);
+    ASSERT_TRUE(QMetaObject::invokeMethod(prompt, "close"));
     EXPECT_TRUE(becomesTrue([&] { return window.isNull(); }));
 }
 
