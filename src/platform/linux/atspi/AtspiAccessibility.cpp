@@ -24,6 +24,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr qsizetype maximumKnownApplications = 64;
+constexpr size_t maximumKnownMenus = 256; ///< of each of them
 constexpr int simultaneousHitTests = 4;
 /// Threads that have nothing to do end soon.
 constexpr int threadExpiryMs = 1000;
@@ -140,6 +141,7 @@ QString AtspiAccessibility::readTitleAt(qint32 pid, QPoint position)
             std::vector<QByteArray> menus = search.all();
             menus.insert(menus.end(), search.looseMenus().begin(), search.looseMenus().end());
             title = MenuHitTest(*bus, application, position).run(menus);
+            menus.resize(std::min(menus.size(), maximumKnownMenus));
             setKnownMenus(name, menus);
         }
         if (!title.isEmpty())
