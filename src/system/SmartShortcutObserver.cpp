@@ -18,10 +18,10 @@ constexpr int maximumLookups = 8;
 } // namespace
 
 SmartShortcutObserver::SmartShortcutObserver(InputMonitor &input, Accessibility &accessibility,
-                                             MenuActionHandler handler)
+                                             MenuActionHandler onMenuAction)
     : m_input(input)
     , m_accessibility(accessibility)
-    , m_handler(std::move(handler))
+    , m_onMenuAction(std::move(onMenuAction))
 {
     connect(&m_input, &InputMonitor::popupPressed, this, &SmartShortcutObserver::handlePress);
 }
@@ -65,7 +65,7 @@ void SmartShortcutObserver::handlePress(const PopupPress &press)
                      --m_lookups;
                      const QString title = resultOr(answer, QString());
                      if (run == m_run && !title.isEmpty())
-                         m_handler(title);
+                         m_onMenuAction(title);
                  });
 }
 

@@ -18,7 +18,7 @@ class SmartShortcutObserver : public QObject, public MenuUseObserver
 {
 public:
     /// The input monitor and the accessibility outlive the observer.
-    SmartShortcutObserver(InputMonitor &input, Accessibility &accessibility, MenuActionHandler handler);
+    SmartShortcutObserver(InputMonitor &input, Accessibility &accessibility, MenuActionHandler onMenuAction);
     ~SmartShortcutObserver() override;
 
     /// Without trust, everything stays as it was until the next call.
@@ -33,7 +33,7 @@ private:
 
     InputMonitor &m_input;
     Accessibility &m_accessibility;
-    MenuActionHandler m_handler;
+    MenuActionHandler m_onMenuAction;
     State m_state = State::Stopped;
     int m_lookups = 0; ///< under way
     quint64 m_run = 0; ///< changes at each start and stop: answers to an earlier one come too late
