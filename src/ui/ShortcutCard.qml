@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 
 import QtQuick
-import QtQuick.Templates as T
 import Keyvora
 
 // One shortcut: where it belongs, what it does, its keys, and whether it is a favourite. Space toggles that.
@@ -93,7 +92,9 @@ Item {
             size: 11
             color: Theme.secondaryInk
         }
-        T.CheckBox {
+        // Not the template's check box: each one that Qt 6.4 makes while assistive technologies listen leaves memory behind,
+        // and cards come and go with every keystroke in the search field.
+        Item {
             id: star
 
             // Larger to hit than to see.
@@ -102,22 +103,26 @@ Item {
             anchors.verticalCenter: header.verticalCenter
             width: 24
             height: 24
-            focusPolicy: Qt.NoFocus
-            checked: root.isFavorite
-            // The model decides what is a favourite; the star follows.
-            nextCheckState: () => star.checkState
+            Accessible.role: Accessible.CheckBox
             Accessible.name: (Localized.czech ? "Oblíbená: " : "Favorite: ") + root.title
-            Accessible.onPressAction: star.clicked()
-            Accessible.onToggleAction: star.clicked()
-            onClicked: root.favoriteToggled(root.shortcutId)
+            Accessible.checkable: true
+            Accessible.checked: root.isFavorite
+            Accessible.onPressAction: root.favoriteToggled(root.shortcutId)
+            Accessible.onToggleAction: root.favoriteToggled(root.shortcutId)
 
-            contentItem: Item {
-                Symbol {
-                    anchors.centerIn: parent
-                    name: root.isFavorite ? "star-fill" : "star"
-                    color: root.isFavorite ? Theme.star : star.hovered ? Theme.ink : Theme.tertiaryInk
-                    opacity: star.down ? 0.7 : 1
-                }
+            HoverHandler {
+                id: starHover
+            }
+            TapHandler {
+                id: starTap
+                gesturePolicy: TapHandler.ReleaseWithinBounds
+                onTapped: root.favoriteToggled(root.shortcutId)
+            }
+            Symbol {
+                anchors.centerIn: parent
+                name: root.isFavorite ? "star-fill" : "star"
+                color: root.isFavorite ? Theme.star : starHover.hovered ? Theme.ink : Theme.tertiaryInk
+                opacity: starTap.pressed ? 0.7 : 1
             }
         }
         PlainLabel {

@@ -45,11 +45,11 @@ KeyvoraTestCase {
 
     function test_theStarTogglesTheFavorite(): void {
         const star = named("Favorite: Undo");
-        verify(!star.checked);
+        verify(!star.Accessible.checked);
         mouseClick(star);
-        verify(named("Favorite: Undo").checked);
+        verify(named("Favorite: Undo").Accessible.checked);
         mouseClick(named("Favorite: Undo"));
-        verify(!named("Favorite: Undo").checked);
+        verify(!named("Favorite: Undo").Accessible.checked);
     }
 
     function test_arrowsMoveThroughTheCardsAndSpaceTogglesTheStar(): void {
