@@ -44,7 +44,7 @@ QList<Shortcut> unknown(const QList<Shortcut> &shortcuts, const QSet<QString> &s
 /// start does not read.
 BackupAllowance roomBeside(const AppModel::Backup &data)
 {
-    BackupAllowance room;
+    BackupAllowance room = BackupAllowance::ofImports();
     // Data that takes more than there is leaves none.
     static_cast<void>(room.take(data));
     return room;
@@ -59,9 +59,18 @@ QList<RunningApplication> others(QList<RunningApplication> applications)
     return applications;
 }
 
-QString outcomeOfFrontmost(qsizetype count, const QString &appName)
+/// New ones were found, and none of them was added.
+QString outcomeWithoutRoom()
+{
+    return Localization::shared().text(u"Na další zkratky už není místo."_s,
+                                       u"There is no room for more shortcuts."_s);
+}
+
+QString outcomeOfFrontmost(qsizetype count, const BackupAllowance &room, const QString &appName)
 {
     const Localization &localization = Localization::shared();
+    if (count == 0 && room.isExceeded())
+        return outcomeWithoutRoom();
     if (count == 0)
         return localization.text(u"V menu nebyly nalezeny žádné nové zkratky."_s,
                                  u"No new shortcuts were found in the menu."_s);
@@ -69,9 +78,11 @@ QString outcomeOfFrontmost(qsizetype count, const QString &appName)
         .arg(QString::number(count), appName);
 }
 
-QString outcomeOfRunningApps(qsizetype count, int contributors)
+QString outcomeOfRunningApps(qsizetype count, const BackupAllowance &room, int contributors)
 {
     const Localization &localization = Localization::shared();
+    if (count == 0 && room.isExceeded())
+        return outcomeWithoutRoom();
     if (count == 0)
         return localization.text(u"V žádné spuštěné aplikaci nebyly nalezeny nové zkratky."_s,
                                  u"No new shortcuts were found in any running app."_s);
@@ -143,7 +154,7 @@ void AppModel::importFrontmostMenu()
             BackupAllowance room = roomBeside(backup());
             const QList<Shortcut> added = unknown(std::get<QList<Shortcut>>(outcome), signatures, room);
             addImported(added);
-            setImportMessage(outcomeOfFrontmost(added.size(), appName));
+            setImportMessage(outcomeOfFrontmost(added.size(), room, appName));
         }
         endImport();
     };
@@ -195,7 +206,7 @@ void AppModel::finishImport(const RunningAppsImport &import)
                                                      u"No running apps found to import from."_s));
     } else {
         addImported(import.batch);
-        setImportMessage(outcomeOfRunningApps(import.batch.size(), import.contributors));
+        setImportMessage(outcomeOfRunningApps(import.batch.size(), import.room, import.contributors));
     }
     setImportProgress(std::nullopt);
     endImport();

@@ -421,12 +421,25 @@ private:
 
 } // namespace
 
+BackupAllowance BackupAllowance::ofImports()
+{
+    BackupAllowance allowance;
+    allowance.m_textBytes = BackupLimits::textBytes / 2;
+    allowance.m_textCount = BackupLimits::textCount / 2;
+    return allowance;
+}
+
+bool BackupAllowance::isExceeded() const
+{
+    return m_textCount > BackupLimits::textCount || m_textBytes > BackupLimits::textBytes;
+}
+
 bool BackupAllowance::take(QStringView text)
 {
     ++m_textCount;
     for (const QChar character : text)
         m_textBytes += jsonBytes(character.unicode());
-    return m_textCount <= BackupLimits::textCount && m_textBytes <= BackupLimits::textBytes;
+    return !isExceeded();
 }
 
 bool BackupAllowance::take(const QStringList &texts)

@@ -24,8 +24,8 @@ struct Backup
     friend bool operator==(const Backup &, const Backup &) = default;
 };
 
-/// The bounds of a backup, and of what imports add to the user's own data: a backup can hold all of it, and
-/// it stays well below what the defaults store may hold.
+/// The bounds of a backup. Half of that is what the menus of others may fill, so that a backup can also hold
+/// what the user adds; all of it stays well below what the defaults store may hold.
 namespace BackupLimits {
 
 /// The largest file that is read.
@@ -43,12 +43,18 @@ inline constexpr qint64 textCount = 200'000;
 class BackupAllowance
 {
 public:
+    BackupAllowance() = default;
+    /// Of what imports may fill.
+    static BackupAllowance ofImports();
+
     /// False when the text does not fit any more; what was refused is counted all the same.
     [[nodiscard]] bool take(QStringView text);
     /// All texts of the shortcut, up to the first that does not fit.
     [[nodiscard]] bool take(const Shortcut &shortcut);
     /// All texts of the backup, up to the first that does not fit.
     [[nodiscard]] bool take(const Backup &backup);
+    /// Whether something did not fit.
+    [[nodiscard]] bool isExceeded() const;
 
 private:
     [[nodiscard]] bool take(const QStringList &texts);

@@ -86,6 +86,8 @@ TEST(AllAppsImport, AddsNoMoreThanABackupHolds)
     program.accessibility.setMenuBar(4711, menuOf({menuItem(u"Something Else"_s, u"e"_s)}));
     importAll(program);
     expectNoMoreThanFits(program, u"Imported %1 shortcuts from 1 apps."_s);
+    importAll(program);
+    EXPECT_EQ(program.model().importMessage(), u"There is no room for more shortcuts."_s);
 }
 
 TEST(AllAppsImport, PassesOverApplicationsThatFail)
@@ -204,14 +206,17 @@ TEST(AllAppsImport, ShowsTheProgressBeforeItReads)
 {
     Program program;
     program.workspace.setRunning({{finder}});
+    int told = 0;
     QObject::connect(&program.model(), &AppModel::importProgressChanged, &program.model(), [&] {
         if (program.model().importProgress()) {
+            ++told;
             EXPECT_TRUE(program.model().isImporting());
             EXPECT_TRUE(program.accessibility.menuBarsRead().isEmpty());
         }
     });
     importAll(program);
     EXPECT_EQ(program.accessibility.menuBarsRead(), QList<qint32>{815});
+    EXPECT_EQ(told, 1);
 }
 
 TEST(AllAppsImport, ChangesTheLibraryAtTheEndOnly)

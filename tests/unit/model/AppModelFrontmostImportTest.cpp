@@ -60,7 +60,7 @@ TEST(FrontmostImport, AddsNoMoreThanABackupHolds)
     importFrontmost(program);
     expectNoMoreThanFits(program, u"Imported %1 shortcuts from Safari."_s);
     importFrontmost(program);
-    EXPECT_EQ(program.model().importMessage(), u"No new shortcuts were found in the menu."_s);
+    EXPECT_EQ(program.model().importMessage(), u"There is no room for more shortcuts."_s);
 }
 
 TEST(FrontmostImport, AddsNothingTheSecondTime)

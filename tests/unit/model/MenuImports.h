@@ -45,7 +45,7 @@ inline QList<Shortcut> nearlyAllThatFits()
 {
     constexpr qint64 left = 500;
     return {makeShortcut(u"custom-1"_s, u"Own"_s, {u"⌘"_s, u"1"_s}, {},
-                         QString(BackupLimits::textBytes - left, u'x'))};
+                         QString(BackupLimits::textBytes / 2 - left, u'x'))};
 }
 
 /// A menu of ten new commands, more than are left room for.
@@ -64,6 +64,9 @@ inline void expectNoMoreThanFits(Program &program, const QString &message)
     EXPECT_GT(added, 0);
     EXPECT_LT(added, 10);
     EXPECT_EQ(program.model().importMessage(), message.arg(added));
+    // The user goes on.
+    program.model().toggleFavorite(u"undo"_s);
+    program.model().addCustom(u"One More"_s, {u"⌘"_s, u"1"_s}, Shortcut::Category::zaklady, {}, {});
     EXPECT_FALSE(program.model().exportBackup().isEmpty());
     EXPECT_LT(QFileInfo(program.storePath()).size(), Defaults::maximumFileBytes);
 }
