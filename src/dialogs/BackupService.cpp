@@ -6,6 +6,7 @@
 #include "dialogs/BackupFile.h"
 #include "dialogs/DialogOverWindow.h"
 #include "model/AppModel.h"
+#include "model/Backup.h"
 #include "model/Localization.h"
 #include "platform/InBackground.h"
 #include "platform/WhenFinished.h"
@@ -66,13 +67,19 @@ private:
 
 void BackupService::exportBackup(AppModel &model, QWindow *window, Done done) const
 {
+    const auto waiting = std::make_shared<Waiting>(model, std::move(done));
+    if (!BackupAllowance().take(model.backup())) {
+        // Nobody is to choose a file in vain.
+        QMetaObject::invokeMethod(
+            &model, [waiting] { waiting->tell(false); }, Qt::QueuedConnection);
+        return;
+    }
     QFileDialog *dialog =
         makeDialog(Localization::shared().text(u"Uložit zálohu"_s, u"Save Backup"_s), model);
     dialog->setAcceptMode(QFileDialog::AcceptSave);
     dialog->setFileMode(QFileDialog::AnyFile);
     dialog->setDefaultSuffix(u"json"_s);
     dialog->selectFile(u"Keyvora-zaloha.json"_s);
-    const auto waiting = std::make_shared<Waiting>(model, std::move(done));
     QObject::connect(dialog, &QFileDialog::fileSelected, dialog, [waiting](const QString &path) {
         if (waiting->model() == nullptr)
             return;

@@ -23,7 +23,8 @@ public:
     // Both return at once. The outcome is false when the dialog is cancelled or its window closes, too. The
     // service may go meanwhile.
 
-    /// Saves a backup. True when the file was written; an existing file is replaced as a whole or stays.
+    /// Saves a backup. True when the file was written; an existing file is replaced as a whole or stays. No
+    /// dialog comes when there is more than a backup can hold.
     void exportBackup(AppModel &model, QWindow *window, Done done) const;
 
     /// Merges a backup into the model, as a whole or not at all. True when the file was read and merged.

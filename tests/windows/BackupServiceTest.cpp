@@ -205,6 +205,15 @@ TEST_F(BackupServiceTest, SavesWhatTheModelHolds)
     EXPECT_EQ(contentOf(path(u"saved.json"_s)), model().exportBackup());
 }
 
+TEST_F(BackupServiceTest, AsksForNoFileWhenThereIsTooMuch)
+{
+    model().addCustom(u"Own"_s, {u"⌘"_s}, Shortcut::Category::text, {},
+                      QString(BackupLimits::textBytes, u'x'));
+    exportBackup();
+    EXPECT_EQ(dialogs().size(), 0);
+    expectOutcome(false);
+}
+
 TEST_F(BackupServiceTest, SavesInTheBackground)
 {
     exportBackup();
