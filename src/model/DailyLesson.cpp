@@ -21,11 +21,19 @@ DailyLesson::DailyLesson(AppModel &model, Defaults &defaults, QObject *parent)
     , m_defaults(defaults)
     , m_trio(model.makeListModel(this))
 {
-    refresh();
-    connect(&m_model, &AppModel::activeAppChanged, this, &DailyLesson::refresh);
-    connect(&m_model, &AppModel::usageCountsChanged, this, &DailyLesson::refresh);
-    connect(&m_model, &AppModel::customShortcutsChanged, this, &DailyLesson::refresh);
-    connect(&Localization::shared(), &Localization::languageChanged, this, &DailyLesson::refresh);
+    follow();
+    connect(&m_model, &AppModel::selectionChanged, this, &DailyLesson::follow);
+    connect(&m_model, &AppModel::activeAppChanged, this, &DailyLesson::follow);
+    connect(&m_model, &AppModel::usageCountsChanged, this, &DailyLesson::follow);
+    connect(&m_model, &AppModel::customShortcutsChanged, this, &DailyLesson::follow);
+    connect(&Localization::shared(), &Localization::languageChanged, this, &DailyLesson::follow);
+}
+
+void DailyLesson::follow()
+{
+    // Unseen, it would look through the whole library at each change of the application in front.
+    if (m_model.selection().kind == SidebarSelection::Kind::daily)
+        refresh();
 }
 
 void DailyLesson::refresh()
@@ -56,8 +64,11 @@ void DailyLesson::complete()
         return;
     qint64 count = streak();
     countUp(count);
-    m_defaults.setInteger(DefaultsKeys::learningStreak, count);
-    m_defaults.setText(DefaultsKeys::lastLearnedDay, today());
+    // Counted without its day, it would count again.
+    m_defaults.changeTogether([&] {
+        m_defaults.setInteger(DefaultsKeys::learningStreak, count);
+        m_defaults.setText(DefaultsKeys::lastLearnedDay, today());
+    });
     emit changed();
 }
 

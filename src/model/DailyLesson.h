@@ -24,7 +24,8 @@ public:
     /// The model and the store outlive the lesson.
     DailyLesson(AppModel &model, Defaults &defaults, QObject *parent = nullptr);
 
-    /// At most three shortcuts; follows the model and the language.
+    /// At most three shortcuts. While the lesson is the selected screen it follows the model and the
+    /// language.
     [[nodiscard]] ShortcutListModel *trio() const { return m_trio; }
     /// How many lessons were completed. A missed day takes nothing away.
     [[nodiscard]] qint64 streak() const;
@@ -46,6 +47,7 @@ signals:
     void changed();
 
 private:
+    void follow();
     [[nodiscard]] QString today() const;
 
     AppModel &m_model;

@@ -19,12 +19,12 @@ VisualKeyboard::VisualKeyboard(AppModel &model, QObject *parent)
     , m_model(model)
     , m_matches(model.makeListModel(this))
 {
-    update();
-    connect(&m_model, &AppModel::searchChanged, this, &VisualKeyboard::update);
-    connect(&m_model, &AppModel::selectionChanged, this, &VisualKeyboard::update);
-    connect(&m_model, &AppModel::modifierFiltersChanged, this, &VisualKeyboard::update);
-    connect(&m_model, &AppModel::customShortcutsChanged, this, &VisualKeyboard::update);
-    connect(&Localization::shared(), &Localization::languageChanged, this, &VisualKeyboard::update);
+    follow();
+    connect(&m_model, &AppModel::searchChanged, this, &VisualKeyboard::follow);
+    connect(&m_model, &AppModel::selectionChanged, this, &VisualKeyboard::follow);
+    connect(&m_model, &AppModel::modifierFiltersChanged, this, &VisualKeyboard::follow);
+    connect(&m_model, &AppModel::customShortcutsChanged, this, &VisualKeyboard::follow);
+    connect(&Localization::shared(), &Localization::languageChanged, this, &VisualKeyboard::follow);
 }
 
 QVariantList VisualKeyboard::rows()
@@ -59,13 +59,22 @@ void VisualKeyboard::openLibrary()
     m_model.setSelection({.kind = SidebarSelection::Kind::all});
 }
 
+void VisualKeyboard::follow()
+{
+    // Typing in the library would filter it twice.
+    if (m_model.selection().kind == SidebarSelection::Kind::keyboard)
+        update();
+}
+
 void VisualKeyboard::update()
 {
     const QList<Shortcut> filtered = m_model.filtered();
     QSet<QString> available;
     if (!m_model.modifierFilters().isEmpty()) {
-        for (const Shortcut &shortcut : filtered)
-            available.unite({shortcut.keys.begin(), shortcut.keys.end()});
+        for (const Shortcut &shortcut : filtered) {
+            for (const QString &key : shortcut.keys)
+                available.insert(key);
+        }
     }
     QList<Shortcut> matching;
     std::ranges::copy_if(filtered, std::back_inserter(matching),

@@ -13,8 +13,8 @@ namespace keyvora {
 class AppModel;
 class ShortcutListModel;
 
-/// A keyboard whose keys tell which shortcuts use them. It follows the model's modifier filters and search.
-/// Main thread only.
+/// A keyboard whose keys tell which shortcuts use them. It follows the model's modifier filters and search
+/// while it is the selected screen. Main thread only.
 class VisualKeyboard : public QObject
 {
     Q_OBJECT
@@ -35,7 +35,6 @@ public:
     [[nodiscard]] static QVariantList rows();
     /// The keys that some shortcut of the library's present list uses; none while no modifier is chosen.
     [[nodiscard]] QStringList availableKeys() const;
-    [[nodiscard]] bool isAvailable(const QString &key) const { return m_availableKeys.contains(key); }
     /// The token of the key that was clicked last; empty before.
     [[nodiscard]] const QString &selectedKey() const { return m_selectedKey; }
     /// How many shortcuts of the present list use the selected key.
@@ -53,6 +52,7 @@ signals:
     void matchCountChanged();
 
 private:
+    void follow();
     void update();
 
     AppModel &m_model;

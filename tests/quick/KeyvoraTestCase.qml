@@ -11,6 +11,8 @@ import KeyvoraTest
 TestCase {
     id: root
 
+    // The row of the sidebar that belongs to the screen.
+    property int sidebarRow: 0
     property Component subject
     property Item item
 
@@ -69,6 +71,7 @@ TestCase {
     function init(): void {
         failOnWarning(/.?/);
         Fixture.reset();
+        Fixture.sections.select(root.sidebarRow);
         Theme.showsFocus = false;
         root.item = createTemporaryObject(root.subject, root);
         verify(root.item !== null);

@@ -150,6 +150,7 @@ KeyvoraTestCase {
     }
 
     name: "DailyLearningView"
+    sidebarRow: 5
     subject: Component {
         DailyLearningView {
             width: 750

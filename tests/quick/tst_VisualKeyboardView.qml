@@ -295,6 +295,7 @@ KeyvoraTestCase {
     }
 
     name: "VisualKeyboardView"
+    sidebarRow: 2
     subject: Component {
         VisualKeyboardView {
             width: 750

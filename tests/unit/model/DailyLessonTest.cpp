@@ -31,11 +31,18 @@ QStringList titlesOf(const DailyLesson &lesson)
     return titles;
 }
 
+/// The window of the program shows the lesson.
+void showLesson(Program &program)
+{
+    program.model().setSelection({.kind = SidebarSelection::Kind::daily});
+}
+
 } // namespace
 
 TEST(DailyLesson, ShowsTheTrioOfTheDay)
 {
     Program program;
+    showLesson(program);
     const DailyLesson lesson(program.model(), program.defaults());
     EXPECT_EQ(titlesOf(lesson), (QStringList{u"Copy"_s, u"Paste"_s, u"Undo"_s}));
 }
@@ -43,6 +50,7 @@ TEST(DailyLesson, ShowsTheTrioOfTheDay)
 TEST(DailyLesson, FollowsTheProgram)
 {
     Program program({.frontmost = RunningApplication{u"Finder"_s, 1}});
+    showLesson(program);
     const DailyLesson lesson(program.model(), program.defaults());
     EXPECT_EQ(titlesOf(lesson), (QStringList{u"Copy"_s, u"New Folder"_s, u"Undo"_s}));
     program.workspace.activate({u"Mac"_s, 2});
@@ -58,9 +66,21 @@ TEST(DailyLesson, FollowsTheUsersOwnShortcuts)
 {
     const Shortcut own = makeShortcut(u"custom-1"_s, u"Own"_s, {u"⌘"_s, u"J"_s}, {u"Editor"_s});
     Program program({.stored = storedCustom({own}), .frontmost = RunningApplication{u"Editor"_s, 1}});
+    showLesson(program);
     const DailyLesson lesson(program.model(), program.defaults());
     EXPECT_EQ(titlesOf(lesson), (QStringList{u"Copy"_s, u"Own"_s, u"Undo"_s}));
     program.model().deleteCustom(own);
+    EXPECT_EQ(titlesOf(lesson), (QStringList{u"Copy"_s, u"Paste"_s, u"Undo"_s}));
+}
+
+TEST(DailyLesson, FollowsOnlyWhileItIsShown)
+{
+    Program program({.frontmost = RunningApplication{u"Finder"_s, 1}});
+    const DailyLesson lesson(program.model(), program.defaults());
+    const QSignalSpy changes(&lesson, &DailyLesson::changed);
+    program.workspace.activate({u"Mac"_s, 2});
+    EXPECT_TRUE(changes.isEmpty());
+    showLesson(program);
     EXPECT_EQ(titlesOf(lesson), (QStringList{u"Copy"_s, u"Paste"_s, u"Undo"_s}));
 }
 
