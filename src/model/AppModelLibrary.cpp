@@ -9,6 +9,7 @@
 #include "model/TextMatching.h"
 
 #include <algorithm>
+#include <vector>
 
 namespace keyvora {
 
@@ -56,14 +57,28 @@ QList<Shortcut> AppModel::contextual() const
 {
     constexpr qsizetype maximumCount = 4;
     const QList<Shortcut> all = allShortcuts();
+    const bool namesActiveApp = std::ranges::any_of(
+        all, [this](const Shortcut &shortcut) { return shortcut.apps.contains(m_activeApp); });
+    struct Candidate
+    {
+        qint64 uses;
+        qsizetype place;
+    };
+    std::vector<Candidate> candidates;
+    for (qsizetype place = 0; place < all.size(); ++place) {
+        if (!namesActiveApp || all.at(place).apps.contains(m_activeApp))
+            candidates.push_back({m_usageCounts.value(all.at(place).id), place});
+    }
+    // Of those that are used as much, the first.
+    const auto isBefore = [](const Candidate &one, const Candidate &other) {
+        return one.uses != other.uses ? one.uses > other.uses : one.place < other.place;
+    };
+    const auto end = candidates.begin() + std::min<ptrdiff_t>(maximumCount, std::ssize(candidates));
+    std::ranges::partial_sort(candidates, end, isBefore);
     QList<Shortcut> result;
-    std::ranges::copy_if(all, std::back_inserter(result),
-                         [this](const Shortcut &shortcut) { return shortcut.apps.contains(m_activeApp); });
-    if (result.isEmpty())
-        result = all;
-    std::ranges::stable_sort(result, std::ranges::greater{},
-                             [this](const Shortcut &shortcut) { return m_usageCounts.value(shortcut.id); });
-    return result.first(std::min(maximumCount, result.size()));
+    std::transform(candidates.begin(), end, std::back_inserter(result),
+                   [&](const Candidate &candidate) { return all.at(candidate.place); });
+    return result;
 }
 
 QStringList AppModel::modifierTokens() const

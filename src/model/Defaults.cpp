@@ -11,6 +11,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 
+#include <algorithm>
 #include <utility>
 
 namespace keyvora {
@@ -122,9 +123,12 @@ void Defaults::setInteger(QLatin1StringView key, qint64 value)
 
 void Defaults::setIntegerMap(QLatin1StringView key, const QHash<QString, qint64> &value)
 {
+    // The object keeps its keys sorted: in any other order each entry would move those after it.
+    QStringList keys = value.keys();
+    std::ranges::sort(keys);
     QJsonObject object;
-    for (auto entry = value.begin(); entry != value.end(); ++entry)
-        object.insert(entry.key(), entry.value());
+    for (const QString &entry : keys)
+        object.insert(entry, value.value(entry));
     set(key, object);
 }
 
