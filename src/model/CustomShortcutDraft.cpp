@@ -8,6 +8,8 @@
 #include "model/KeysText.h"
 #include "model/Localization.h"
 
+#include <utility>
+
 namespace keyvora {
 
 using namespace Qt::Literals::StringLiterals;
@@ -78,7 +80,9 @@ bool CustomShortcutDraft::save()
 {
     if (!m_canSave)
         return false;
-    m_model.addCustom(m_title.trimmed(), m_keys, allCategories.at(static_cast<size_t>(m_category)), m_app,
+    // What is saved would collide with itself.
+    const QStringList keys = std::exchange(m_keys, {});
+    m_model.addCustom(m_title.trimmed(), keys, allCategories.at(static_cast<size_t>(m_category)), m_app,
                       m_detail.trimmed());
     return true;
 }

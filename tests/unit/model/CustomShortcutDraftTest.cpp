@@ -67,6 +67,18 @@ TEST(CustomShortcutDraft, SavesWhatWasWritten)
     EXPECT_EQ(saved.detail, u"Wraps long lines."_s);
 }
 
+TEST(CustomShortcutDraft, DoesNotWarnOfWhatItSaves)
+{
+    Program program;
+    CustomShortcutDraft draft(program.model());
+    draft.setTitle(u"Word Wrap"_s);
+    draft.setKeysText(u"⌃+F9"_s);
+    const QSignalSpy changes(&draft, &CustomShortcutDraft::conflictTitleChanged);
+    ASSERT_TRUE(draft.save());
+    EXPECT_EQ(draft.conflictTitle(), QString());
+    EXPECT_TRUE(changes.isEmpty());
+}
+
 TEST(CustomShortcutDraft, SavesWithoutApplicationAndDescription)
 {
     Program program;
