@@ -7,6 +7,7 @@
 #include "model/Localization.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace keyvora {
 
@@ -82,9 +83,9 @@ void PracticeSession::startOver()
 void PracticeSession::clearAnswer()
 {
     m_capturedKeys.clear();
-    m_answer = Answer::Unanswered;
     m_model.setPracticeAnswered(false);
-    emit answerChanged();
+    if (std::exchange(m_answer, Answer::Unanswered) != Answer::Unanswered)
+        emit answerChanged();
 }
 
 void PracticeSession::followLanguage()

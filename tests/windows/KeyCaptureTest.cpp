@@ -10,6 +10,7 @@
 #include "model/Defaults.h"
 #include "model/KeyPress.h"
 #include "model/Localization.h"
+#include "model/PracticeDraw.h"
 #include "model/ShortcutLibrary.h"
 #include "platform/linux/X11GrabFocusFilter.h"
 #include "platform/linux/X11HotKeys.h"
@@ -167,13 +168,7 @@ private:
 /// What can be asked for: not what takes several steps, nor what the desktop's owner must not lose.
 bool isAnswerable(const ShortcutSeed &seed)
 {
-    static const QStringList excluded{
-        u"emoji"_s,       u"spotlight"_s,    u"shot-full"_s,       u"shot-area"_s,   u"shot-tools"_s,
-        u"lock"_s,        u"logout"_s,       u"shot-clipboard"_s,  u"dock-toggle"_s, u"desktop"_s,
-        u"app-windows"_s, u"space-left"_s,   u"mission-control"_s, u"space-right"_s, u"input-source"_s,
-        u"quit"_s,        u"close-window"_s, u"minimize"_s,        u"hide"_s,
-    };
-    return !seed.keys.contains(u"→"_s) && !excluded.contains(seed.id);
+    return !seed.keys.contains(u"→"_s) && !practiceUnsafeIDs().contains(seed.id);
 }
 
 /// The symbols that a key of the catalog may be.

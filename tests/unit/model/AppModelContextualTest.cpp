@@ -121,8 +121,12 @@ TEST(ContextualModel, FollowsEverythingThatTheListDependsOn)
     program.workspace.activate({u"Firefox"_s, 2});
     expectCurrent();
     EXPECT_EQ(rowsOf(list), (QStringList{u"address"_s, u"reload"_s, u"bookmark"_s}));
+    const QString englishTitle = model.contextual().constFirst().title;
     program.localization().setLanguage(AppLanguage::Czech);
     expectCurrent();
+    EXPECT_EQ(list.data(list.index(0), ShortcutListModel::TitleRole).toString(),
+              model.contextual().constFirst().title);
+    EXPECT_NE(model.contextual().constFirst().title, englishTitle);
 }
 
 TEST(ContextualModel, MovesAShortcutThatIsUsedMore)

@@ -228,11 +228,14 @@ TEST(RecordMouseAction, HasTheWholeSuggestionBeforeItTells)
 {
     Program program(learning());
     AppModel &model = program.model();
+    int told = 0;
     QObject::connect(&model, &AppModel::latestSuggestionChanged, &model, [&] {
+        ++told;
         EXPECT_TRUE(model.latestSuggestionReason().contains(u"“Eject Disk”"_s));
         EXPECT_EQ(model.usageCounts().value(u"eject"_s), 1);
     });
     model.recordMouseAction(u"Eject Disk"_s);
+    EXPECT_EQ(told, 1);
 }
 
 } // namespace keyvora

@@ -229,11 +229,14 @@ TEST(ActiveApplication, IsConsistentWhenItIsTold)
 {
     Program program({.frontmost = safari});
     AppModel &model = program.model();
+    int told = 0;
     QObject::connect(&model, &AppModel::activeAppChanged, &model, [&] {
+        ++told;
         EXPECT_EQ(model.activeApp(), u"Finder"_s);
         EXPECT_EQ(model.activeAppPID(), 815);
     });
     program.workspace.activate(finder);
+    EXPECT_EQ(told, 1);
 }
 
 TEST(ActiveApplication, IsAskedForOnceAndThenAwaited)

@@ -129,11 +129,14 @@ TEST(Localization, HasChangedAndStoredBeforeItTells)
 {
     Store store;
     Localization localization(store.defaults, {u"en"_s});
+    int told = 0;
     QObject::connect(&localization, &Localization::languageChanged, &localization, [&] {
+        ++told;
         EXPECT_EQ(localization.language(), AppLanguage::Czech);
         EXPECT_EQ(store.defaults.text(key), u"cs"_s);
     });
     localization.setLanguage(AppLanguage::Czech);
+    EXPECT_EQ(told, 1);
 }
 
 TEST(Localization, StoresTheCurrentLanguageWithoutTellingAnybody)
