@@ -117,6 +117,13 @@ int reasonToLeave(const fs::path &target, bool &exists, mode_t &rights)
     return access(target.c_str(), W_OK) == 0 ? 0 : errno;
 }
 
+/// Some file systems of networks refuse to set even what is so already.
+bool setRights(int file, mode_t rights)
+{
+    struct stat status = {};
+    return (fstat(file, &status) == 0 && (status.st_mode & ALLPERMS) == rights) || fchmod(file, rights) == 0;
+}
+
 /// 0, or why it failed.
 int replace(const fs::path &target, const QByteArray &content)
 {
@@ -129,7 +136,7 @@ int replace(const fs::path &target, const QByteArray &content)
     if (file < 0)
         return errno;
     // A new file gets what the user's mask leaves, one that was there keeps its own.
-    bool isReady = (!exists || fchmod(file, rights) == 0) && writeAll(file, content) && fsync(file) == 0;
+    bool isReady = (!exists || setRights(file, rights)) && writeAll(file, content) && fsync(file) == 0;
     int reason = isReady ? 0 : errno;
     if (close(file) != 0 && isReady) {
         isReady = false;
