@@ -192,6 +192,27 @@ TEST_F(X11ConnectionTest, EndsSilentlyWithTheServer)
     QCoreApplication::processEvents();
 }
 
+TEST_F(X11ConnectionTest, LetsNobodyWaitForAServerThatIsGone)
+{
+    QList<QByteArray> values;
+    std::optional<bool> isDone;
+    const auto ask = [&] {
+        connection().readProperty(connection().root(), "WM_CLASS", 4,
+                                  [&](const QByteArray &value) { values.append(value); });
+    };
+    ask();
+    EXPECT_TRUE(becomesTrue([&] { return values.size() == 1; }));
+    screen().end();
+    ask();
+    EXPECT_TRUE(becomesTrue([&] { return values.size() == 2; }));
+    ask();
+    connection().expectOutcome(xcb_map_window_checked(connection().xcb(), connection().root()).sequence,
+                               [&](bool outcome) { isDone = outcome; });
+    EXPECT_TRUE(becomesTrue([&] { return values.size() == 3 && isDone; }));
+    EXPECT_EQ(values.last(), QByteArray());
+    EXPECT_EQ(isDone, false);
+}
+
 TEST_F(X11ConnectionTest, TellsWhatBecameOfRequests)
 {
     const xcb_window_t window = desktop().makeWindow({.instance = "a", .windowClass = "A"});

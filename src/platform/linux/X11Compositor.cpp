@@ -24,8 +24,8 @@ X11Compositor::X11Compositor(X11Connection &connection, QObject *parent)
 
 void X11Compositor::followOwner()
 {
-    const xcb_query_extension_reply_t *extension = xcb_get_extension_data(m_connection.xcb(), &xcb_xfixes_id);
-    if (extension == nullptr || extension->present == 0)
+    const xcb_query_extension_reply_t *extension = m_connection.extension(xcb_xfixes_id);
+    if (extension == nullptr)
         return;
     m_ownerEvent = static_cast<uint8_t>(extension->first_event + XCB_XFIXES_SELECTION_NOTIFY);
     // The server ignores the other requests of the extension until it has been asked for its version.

@@ -113,8 +113,10 @@ void X11Connection::finishPendingReplies()
 {
     while (!m_pendingReplies.empty()) {
         xcb_generic_error_t *failure = nullptr;
-        void *data = xcb_wait_for_reply(m_connection, m_pendingReplies.front().sequence, &failure);
-        finish(data, failure);
+        const XcbOwned<void> reply(
+            xcb_wait_for_reply(m_connection, m_pendingReplies.front().sequence, &failure));
+        const XcbOwned<xcb_generic_error_t> ownedFailure(failure);
+        finish(reply.get(), failure != nullptr || isBroken());
     }
     readLater();
 }
@@ -135,11 +137,15 @@ void X11Connection::readLater()
 
 void X11Connection::readAvailable()
 {
-    if (xcb_connection_has_error(m_connection) != 0) {
+    m_willRead = true;
+    if (isBroken()) {
         m_notifier->setEnabled(false);
+        // Nobody is to wait for a server that is gone.
+        while (!m_pendingReplies.empty())
+            finish(nullptr, true);
+        m_willRead = false;
         return;
     }
-    m_willRead = true;
     // Reading replies queues events and the other way round, so both go on until neither finds anything.
     dispatchEvents(&xcb_poll_for_event);
     bool hasFound = true;
@@ -158,19 +164,24 @@ bool X11Connection::dispatchReplies()
         xcb_generic_error_t *failure = nullptr;
         if (xcb_poll_for_reply(m_connection, m_pendingReplies.front().sequence, &data, &failure) == 0)
             break;
+        const XcbOwned<void> reply(data);
+        const XcbOwned<xcb_generic_error_t> ownedFailure(failure);
         hasFound = true;
-        finish(data, failure);
+        finish(reply.get(), failure != nullptr);
     }
     return hasFound;
 }
 
-void X11Connection::finish(void *reply, xcb_generic_error_t *failure)
+void X11Connection::finish(const void *reply, bool hasFailed)
 {
-    const XcbOwned<void> ownedReply(reply);
-    const XcbOwned<xcb_generic_error_t> ownedFailure(failure);
     const PendingReply pending = std::move(m_pendingReplies.front());
     m_pendingReplies.pop_front();
-    pending.handler(reply, failure != nullptr);
+    pending.handler(reply, hasFailed);
+}
+
+bool X11Connection::isBroken() const
+{
+    return xcb_connection_has_error(m_connection) != 0;
 }
 
 bool X11Connection::dispatchEvents(xcb_generic_event_t *(*nextEvent)(xcb_connection_t *))

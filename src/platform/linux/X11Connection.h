@@ -18,8 +18,8 @@ namespace keyvora {
 
 /// Our own connection to the X server, beside the toolkit's, so that root-window events, grabs and errors are
 /// ours alone. Replies arrive by callback, events by signal, both from the event loop; what waits for the
-/// server says so. A server that goes away ends the events silently; the toolkit's own connection ends the
-/// program.
+/// server says so. A server that goes away ends the events silently, and every request has failed; the
+/// toolkit's own connection, where it is to the same server, ends the program.
 class X11Connection : public QObject
 {
     Q_OBJECT
@@ -82,7 +82,8 @@ private:
     };
 
     X11Connection(xcb_connection_t *connection, int screenNumber);
-    void finish(void *reply, xcb_generic_error_t *failure);
+    void finish(const void *reply, bool hasFailed);
+    [[nodiscard]] bool isBroken() const;
     void readLater();
     void readAvailable();
     // Both tell whether there was anything.
