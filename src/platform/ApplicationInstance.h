@@ -17,7 +17,7 @@ class ApplicationInstance : public QObject
 public:
     enum class Claim : quint8 {
         First,      ///< this process is the program
-        HandedOver, ///< another process is, and has been activated
+        HandedOver, ///< another process is, and has been activated, unless it does not respond
         Alone,      ///< the session offers no way to tell; this process runs by itself
     };
 

@@ -9,6 +9,7 @@
 
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
+#include <QDBusVirtualObject>
 #include <QThread>
 
 #include <algorithm>
@@ -134,6 +135,30 @@ private:
     PrivateBus m_bus;
     QDBusConnection m_desktopBus = m_bus.connect(u"desktop"_s);
     std::unique_ptr<DBusApplication> m_first = std::make_unique<DBusApplication>(m_bus.connect(u"first"_s));
+};
+
+/// A program that ends when it should answer.
+class EndingProgram : public QDBusVirtualObject
+{
+public:
+    explicit EndingProgram(PrivateBus &bus)
+        : m_bus(bus)
+    {
+        QDBusConnection connection = m_bus.connect(u"ending"_s);
+        EXPECT_TRUE(connection.registerVirtualObject(u"/app/keyvora/Keyvora"_s, this));
+        EXPECT_TRUE(connection.registerService(u"app.keyvora.Keyvora"_s));
+    }
+
+    [[nodiscard]] QString introspect(const QString & /*path*/) const override { return {}; }
+
+    bool handleMessage(const QDBusMessage & /*message*/, const QDBusConnection & /*connection*/) override
+    {
+        m_bus.release(u"ending"_s);
+        return true;
+    }
+
+private:
+    PrivateBus &m_bus;
 };
 
 /// Writes down what an instance is told.
@@ -343,6 +368,21 @@ TEST(DBusApplication, TakesEitherKindOfToken)
          })
         session.call(u"Activate"_s, {platformData});
     EXPECT_EQ(log.activations(5), (QStringList{u"old"_s, u"new"_s, u"old"_s, QString(), QString()}));
+}
+
+TEST(DBusApplication, TakesThePlaceOfOneThatIsJustEnding)
+{
+    PrivateBus bus;
+    const EndingProgram ending(bus);
+    Claim claim = Claim::Alone;
+    const std::unique_ptr<QThread> process(QThread::create([&] {
+        DBusApplication next(bus.connect(u"next"_s));
+        claim = next.claim({});
+    }));
+    process->start();
+    EXPECT_TRUE(becomesTrue([&] { return process->isFinished(); }));
+    process->wait();
+    EXPECT_EQ(claim, Claim::First);
 }
 
 TEST(DBusApplication, HasOnePlaceForManySimultaneousStarts)

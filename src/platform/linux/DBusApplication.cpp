@@ -22,6 +22,8 @@ const auto interfaceName = u"org.freedesktop.Application"_s;
 /// How long a second start waits for the first one to answer before it ends all the same.
 constexpr int activationTimeoutMs = 5000;
 
+constexpr int maximumAttempts = 2;
+
 QString activationToken(const QVariantMap &platformData)
 {
     const QString token = platformData.value(u"activation-token"_s).toString();
@@ -45,17 +47,20 @@ ApplicationInstance::Claim DBusApplication::claim(const QString &activationToken
         return Claim::Alone;
     // Whoever finds the name taken may call at once, so the object is there before the name.
     m_bus.registerObject(objectPath, this);
-    const auto reply =
-        m_bus.interface()->registerService(serviceName, QDBusConnectionInterface::DontQueueService);
-    if (!reply.isValid())
-        return Claim::Alone;
-    if (reply.value() == QDBusConnectionInterface::ServiceRegistered) {
-        m_bus.connect({}, u"/org/freedesktop/DBus/Local"_s, u"org.freedesktop.DBus.Local"_s,
-                      u"Disconnected"_s, this, SLOT(loseSession()));
-        return Claim::First;
+    for (int attempt = 1;; ++attempt) {
+        const auto reply =
+            m_bus.interface()->registerService(serviceName, QDBusConnectionInterface::DontQueueService);
+        if (!reply.isValid())
+            return Claim::Alone;
+        if (reply.value() == QDBusConnectionInterface::ServiceRegistered) {
+            m_bus.connect({}, u"/org/freedesktop/DBus/Local"_s, u"org.freedesktop.DBus.Local"_s,
+                          u"Disconnected"_s, this, SLOT(loseSession()));
+            return Claim::First;
+        }
+        // One that is just ending answers no more; once it is gone its place is free.
+        if (activateRunning(activationToken) || attempt == maximumAttempts)
+            return Claim::HandedOver;
     }
-    activateRunning(activationToken);
-    return Claim::HandedOver;
 }
 
 void DBusApplication::catchUp()
@@ -77,7 +82,7 @@ void DBusApplication::catchUp()
     });
 }
 
-void DBusApplication::activateRunning(const QString &activationToken)
+bool DBusApplication::activateRunning(const QString &activationToken)
 {
     QVariantMap platformData;
     if (!activationToken.isEmpty()) {
@@ -87,7 +92,7 @@ void DBusApplication::activateRunning(const QString &activationToken)
     QDBusMessage call = QDBusMessage::createMethodCall(serviceName, objectPath, interfaceName, u"Activate"_s);
     call.setArguments({platformData});
     // This process has nothing else to do, so it may wait.
-    m_bus.call(call, QDBus::Block, activationTimeoutMs);
+    return m_bus.call(call, QDBus::Block, activationTimeoutMs).type() == QDBusMessage::ReplyMessage;
 }
 
 void DBusApplication::Activate(const QVariantMap &platformData)

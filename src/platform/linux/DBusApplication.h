@@ -32,7 +32,8 @@ private slots:
 
 private:
     void catchUp();
-    void activateRunning(const QString &activationToken);
+    /// Whether it has answered.
+    [[nodiscard]] bool activateRunning(const QString &activationToken);
 
     QDBusConnection m_bus;
 };
