@@ -232,6 +232,18 @@ TEST_F(X11HotKeysTest, FollowsNumLockToAnotherModifier)
     EXPECT_EQ(told().size(), 1);
 }
 
+TEST_F(X11HotKeysTest, TakesEitherAltWhereEachIsAModifierOfItsOwn)
+{
+    X11HotKeys &hotKeys = makeRegistered();
+    ASSERT_TRUE(
+        screen().run(u"xmodmap"_s, {u"-e"_s, u"remove mod1 = Alt_R"_s, u"-e"_s, u"add mod3 = Alt_R"_s}));
+    EXPECT_EQ(told(), QStringList());
+    EXPECT_TRUE(hotKeys.isRegistered());
+    for (const quint32 alt : {quint32{XK_Alt_L}, quint32{XK_Alt_R}})
+        input().tapKeys({XK_Control_L, alt, XK_space});
+    EXPECT_EQ(told().size(), 2);
+}
+
 TEST_F(X11HotKeysTest, FollowsTheSpaceKeyToAnotherPlace)
 {
     makeRegistered();

@@ -52,16 +52,21 @@ void X11HotKeys::unregisterHotKey()
 QList<X11HotKeys::Grab> X11HotKeys::wantedGrabs() const
 {
     const X11Keyboard::Mapping mapping = m_keyboard.mapping().value_or(X11Keyboard::Mapping());
-    const unsigned int alt = mapping.alt != 0 ? unsigned{mapping.alt} : unsigned{XCB_MOD_MASK_1};
+    const unsigned int altBits = mapping.alt != 0 ? unsigned{mapping.alt} : unsigned{XCB_MOD_MASK_1};
     const unsigned int numLock = mapping.numLock;
     QList<unsigned int> lockStates{0, XCB_MOD_MASK_LOCK};
     if (numLock != 0)
         lockStates += {numLock, XCB_MOD_MASK_LOCK | numLock};
     QList<Grab> grabs;
     for (const xcb_keycode_t key : mapping.spaceKeys) {
-        for (const unsigned int locks : lockStates)
-            grabs.append(
-                {.modifiers = static_cast<uint16_t>(XCB_MOD_MASK_CONTROL | alt | locks), .key = key});
+        for (const unsigned int locks : lockStates) {
+            // Each Alt key may have a bit of its own.
+            for (unsigned int rest = altBits; rest != 0; rest &= rest - 1) {
+                const unsigned int alt = rest & -rest;
+                grabs.append(
+                    {.modifiers = static_cast<uint16_t>(XCB_MOD_MASK_CONTROL | alt | locks), .key = key});
+            }
+        }
     }
     return grabs;
 }
