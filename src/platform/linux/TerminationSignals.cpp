@@ -20,6 +20,8 @@ constexpr std::array handledSignals{SIGTERM, SIGINT, SIGHUP};
 // A signal handler can reach nothing but statics.
 int writingEnd = -1;
 int readingEnd = -1;
+/// What the signals did before.
+std::array<struct sigaction, handledSignals.size()> previousActions{};
 
 void announce(int)
 {
@@ -46,18 +48,26 @@ TerminationSignals::TerminationSignals(QObject *parent)
     struct sigaction action = {};
     action.sa_handler = announce;
     action.sa_flags = SA_RESTART;
-    for (const int signal : handledSignals)
-        sigaction(signal, &action, nullptr);
+    for (size_t i = 0; i < handledSignals.size(); ++i) {
+        sigaction(handledSignals[i], nullptr, &previousActions[i]);
+        // Who was started to outlive its terminal, or its shell's interrupts, does.
+        if (previousActions[i].sa_handler != SIG_IGN)
+            sigaction(handledSignals[i], &action, nullptr);
+    }
 }
 
 TerminationSignals::~TerminationSignals()
 {
     // A process that ends already must not be cut off by a second signal before it is done.
     const bool endsAlready = m_notifier != nullptr && !m_notifier->isEnabled();
-    for (const int signal : handledSignals)
-        std::signal(signal, endsAlready ? SIG_IGN : SIG_DFL);
     if (m_notifier == nullptr)
         return;
+    for (size_t i = 0; i < handledSignals.size(); ++i) {
+        if (endsAlready)
+            std::signal(handledSignals[i], SIG_IGN);
+        else
+            sigaction(handledSignals[i], &previousActions[i], nullptr);
+    }
     m_notifier->setEnabled(false);
     close(readingEnd);
     close(writingEnd);

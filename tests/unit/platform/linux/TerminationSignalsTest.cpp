@@ -16,11 +16,25 @@ namespace {
 
 constexpr std::array endingSignals{SIGTERM, SIGINT, SIGHUP};
 
+class TerminationSignalsTest : public testing::Test
+{
+protected:
+    TerminationSignalsTest() { ignoreNothing(); }
+
+    /// As in a process that was just started; one that ends ignores what comes then.
+    static void ignoreNothing()
+    {
+        for (const int signal : endingSignals)
+            std::signal(signal, SIG_DFL);
+    }
+};
+
 } // namespace
 
-TEST(TerminationSignals, ArriveFromTheEventLoop)
+TEST_F(TerminationSignalsTest, ArriveFromTheEventLoop)
 {
     for (const int signal : endingSignals) {
+        ignoreNothing();
         const TerminationSignals termination;
         QSignalSpy requests(&termination, &TerminationSignals::terminationRequested);
         ASSERT_EQ(raise(signal), 0);
@@ -31,7 +45,7 @@ TEST(TerminationSignals, ArriveFromTheEventLoop)
     }
 }
 
-TEST(TerminationSignals, ArriveOnceHoweverManyThereAre)
+TEST_F(TerminationSignalsTest, ArriveOnceHoweverManyThereAre)
 {
     const TerminationSignals termination;
     QSignalSpy requests(&termination, &TerminationSignals::terminationRequested);
@@ -43,7 +57,7 @@ TEST(TerminationSignals, ArriveOnceHoweverManyThereAre)
     EXPECT_EQ(requests.size(), 1);
 }
 
-TEST(TerminationSignals, DoNotCutOffAProcessThatEndsAlready)
+TEST_F(TerminationSignalsTest, DoNotCutOffAProcessThatEndsAlready)
 {
     {
         const TerminationSignals termination;
@@ -55,7 +69,23 @@ TEST(TerminationSignals, DoNotCutOffAProcessThatEndsAlready)
         ASSERT_EQ(raise(signal), 0) << "and the process is still there";
 }
 
-TEST(TerminationSignals, HaveTheirUsualEffectAgainAfterwards)
+TEST_F(TerminationSignalsTest, LeaveWhatTheProgramWasToldToIgnore)
+{
+    std::signal(SIGHUP, SIG_IGN);
+    {
+        const TerminationSignals termination;
+        const QSignalSpy requests(&termination, &TerminationSignals::terminationRequested);
+        ASSERT_EQ(raise(SIGHUP), 0);
+        QCoreApplication::processEvents();
+        EXPECT_TRUE(requests.isEmpty());
+    }
+    struct sigaction action = {};
+    ASSERT_EQ(sigaction(SIGHUP, nullptr, &action), 0);
+    EXPECT_EQ(action.sa_handler, SIG_IGN);
+    std::signal(SIGHUP, SIG_DFL);
+}
+
+TEST_F(TerminationSignalsTest, HaveTheirUsualEffectAgainAfterwards)
 {
     {
         const TerminationSignals termination;
