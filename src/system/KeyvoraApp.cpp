@@ -90,11 +90,11 @@ std::unique_ptr<KeyboardLayout> makeKeyboardLayout(X11Connection *x11, const X11
     return std::make_unique<X11KeyboardLayout>(*x11, *keyboard);
 }
 
-bool activateWindow(const QWindow &window, const QString &activationToken)
+bool activateWindow(const QWindow &window, const QString &activationToken, X11Connection *x11)
 {
     // On X11 the toolkit asks with the time of the last input that it got itself, which was long before.
     const auto time = timeOfActivationToken(activationToken);
-    return time && activateX11Window(window, *time);
+    return time && x11 != nullptr && activateX11Window(window, *time, *x11);
 }
 
 /// A file of the private folder of an installation, or of the one beside a program that was just built.
@@ -260,7 +260,8 @@ UserInterface::Context KeyvoraApp::userInterfaceContext()
         .toggleOverlay = [this] { m_overlay.toggle(); },
         // Whether the desktop obeyed shows in the next check.
         .grantTrust = [this] { static_cast<void>(m_accessibility.grantTrust()); },
-        .activateWindow = &activateWindow,
+        .activateWindow = [this](const QWindow &window,
+                                 const QString &token) { return activateWindow(window, token, m_x11.get()); },
     };
 }
 

@@ -112,7 +112,7 @@ void X11ActivationTest::asksWithTheTimeOnceTheWindowIsShown()
     });
     const xcb_timestamp_t now = serverTime(*listener);
     window.show();
-    QVERIFY(activateX11Window(window, now));
+    QVERIFY(activateX11Window(window, now, *listener));
     QTRY_VERIFY(!requests.isEmpty());
     QCOMPARE(requests, (QList<Request>{{2, now}}));
     QTRY_VERIFY(window.isActive());
