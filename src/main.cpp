@@ -6,16 +6,40 @@
 
 #include <QApplication>
 #include <QDBusConnection>
+#include <QSessionManager>
+
+#include <optional>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
 /// The overlay and everything that looks beyond our own windows needs X11, which Wayland sessions offer, too.
-void preferX11(const QProcessEnvironment &environment)
+/// Holds while the toolkit makes its choice: programs that are started from here make their own.
+class PreferenceForX11
 {
-    if (!environment.contains(u"QT_QPA_PLATFORM"_s) && environment.contains(u"DISPLAY"_s))
-        qputenv("QT_QPA_PLATFORM", "xcb");
+public:
+    explicit PreferenceForX11(const QProcessEnvironment &environment)
+        : m_isOurs(!environment.contains(u"QT_QPA_PLATFORM"_s) && environment.contains(u"DISPLAY"_s))
+    {
+        if (m_isOurs)
+            qputenv("QT_QPA_PLATFORM", "xcb;wayland");
+    }
+    ~PreferenceForX11()
+    {
+        if (m_isOurs)
+            qunsetenv("QT_QPA_PLATFORM");
+    }
+    Q_DISABLE_COPY_MOVE(PreferenceForX11)
+
+private:
+    bool m_isOurs;
+};
+
+/// Whether the program is there at login is for the login item to say, not for what was open at logout.
+void leaveSessionAlone(QSessionManager &manager)
+{
+    manager.setRestartHint(QSessionManager::RestartNever);
 }
 
 QString activationToken(const QProcessEnvironment &environment)
@@ -30,9 +54,11 @@ int main(int argc, char *argv[])
 {
     // The toolkit takes startup tokens out of the environment, so it is read before.
     const QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    preferX11(environment);
-
+    std::optional<PreferenceForX11> preference(environment);
     QApplication application(argc, argv);
+    preference.reset();
+    QObject::connect(&application, &QGuiApplication::commitDataRequest, &leaveSessionAlone);
+    QObject::connect(&application, &QGuiApplication::saveStateRequest, &leaveSessionAlone);
     QApplication::setApplicationName(u"Keyvora"_s);
     QApplication::setApplicationVersion(QStringLiteral(KEYVORA_VERSION));
     QApplication::setDesktopFileName(u"app.keyvora.Keyvora"_s);
