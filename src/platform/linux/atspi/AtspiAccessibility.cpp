@@ -63,7 +63,10 @@ AtspiAccessibility::~AtspiAccessibility()
 
 QFuture<bool> AtspiAccessibility::isTrusted()
 {
-    return inBackground(m_trust, [this] { return accessibilityBus(m_patience.trust) != nullptr; });
+    return inBackground(m_trust, [this] {
+        const auto bus = accessibilityBus(m_patience.trust);
+        return bus && responds(*bus);
+    });
 }
 
 QFuture<bool> AtspiAccessibility::grantTrust()
@@ -109,14 +112,15 @@ std::optional<MenuTree> AtspiAccessibility::readMenuBar(qint32 pid) const
             AtspiApplication application(*bus, name);
             application.loadCache();
             bus->run();
+            // What these keep in their windows has no keys; they tell them in another way.
+            if (application.isGtk4())
+                break;
             MenuBarSearch search(*bus, application);
             search.run();
             const std::optional<QByteArray> bar = search.best();
             if (!bar)
                 continue;
-            MenuTree tree = MenuTreeReader(*bus, application).read(*bar);
-            if (!application.isGtk4())
-                return tree;
+            return MenuTreeReader(*bus, application).read(*bar);
         }
     }
     if (const auto bar = findGtkMenuBar(pid)) {
@@ -137,12 +141,14 @@ QString AtspiAccessibility::readTitleAt(qint32 pid, QPoint position)
         QString title = MenuHitTest(*bus, application, position).run(knownMenus(name));
         if (title.isEmpty()) {
             MenuBarSearch search(*bus, application);
-            search.run();
+            const bool isComplete = search.run();
             std::vector<QByteArray> menus = search.all();
             menus.insert(menus.end(), search.looseMenus().begin(), search.looseMenus().end());
             title = MenuHitTest(*bus, application, position).run(menus);
             menus.resize(std::min(menus.size(), maximumKnownMenus));
-            setKnownMenus(name, menus);
+            // What is known of an application is better than what it did not tell in time.
+            if (isComplete)
+                setKnownMenus(name, menus);
         }
         if (!title.isEmpty())
             return title;

@@ -68,6 +68,17 @@ bool enableAccessibility(BusPipeline &session)
     return session.run() && isAccessibilityEnabled(session);
 }
 
+bool responds(BusPipeline &bus)
+{
+    bool hasAnswered = false;
+    bus.call({.destination = "org.freedesktop.DBus",
+              .path = "/org/freedesktop/DBus",
+              .interface = "org.freedesktop.DBus",
+              .method = "GetId"},
+             [&hasAnswered](sd_bus_message *reply) { hasAnswered = reply != nullptr; });
+    return bus.run() && hasAnswered;
+}
+
 QList<QByteArray> busNamesOfProcess(BusPipeline &accessibilityBus, qint32 pid)
 {
     QList<QByteArray> registered;

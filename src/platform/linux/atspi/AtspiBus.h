@@ -15,6 +15,9 @@ class BusPipeline;
 // The accessibility bus and who is on it. For worker threads. Those that take the bus of the session start
 // the service if need be. Each function runs the pipeline, but the last, whose call goes with the next run.
 
+/// Whether a bus answers in time.
+[[nodiscard]] bool responds(BusPipeline &bus);
+
 /// Where the accessibility bus is; nothing when the desktop has none.
 [[nodiscard]] std::optional<QByteArray> accessibilityBusAddress(BusPipeline &session);
 

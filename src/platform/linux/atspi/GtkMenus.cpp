@@ -3,6 +3,8 @@
 
 #include "platform/linux/atspi/GtkMenus.h"
 
+#include "platform/linux/X11Connection.h"
+#include "platform/linux/XcbData.h"
 #include "platform/linux/atspi/Accelerator.h"
 #include "platform/linux/atspi/BusPipeline.h"
 #include "platform/linux/atspi/MenuTreeReader.h"
@@ -12,7 +14,6 @@
 #include <QSet>
 
 #include <algorithm>
-#include <cstdlib>
 #include <cstring>
 #include <memory>
 #include <systemd/sd-bus.h>
@@ -36,17 +37,12 @@ struct Disconnect
 {
     void operator()(xcb_connection_t *connection) const { xcb_disconnect(connection); }
 };
-struct Free
-{
-    void operator()(void *reply) const { std::free(reply); }
-};
 using Display = std::unique_ptr<xcb_connection_t, Disconnect>;
 
 xcb_atom_t atom(const Display &display, const char *name)
 {
     const auto cookie = xcb_intern_atom(display.get(), 1, static_cast<uint16_t>(std::strlen(name)), name);
-    const std::unique_ptr<xcb_intern_atom_reply_t, Free> reply(
-        xcb_intern_atom_reply(display.get(), cookie, nullptr));
+    const XcbOwned<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(display.get(), cookie, nullptr));
     return reply ? reply->atom : static_cast<xcb_atom_t>(XCB_ATOM_NONE);
 }
 
@@ -54,8 +50,7 @@ QByteArray property(const Display &display, xcb_window_t window, xcb_atom_t name
 {
     const auto cookie =
         xcb_get_property(display.get(), 0, window, name, XCB_GET_PROPERTY_TYPE_ANY, 0, maximumBytes / 4);
-    const std::unique_ptr<xcb_get_property_reply_t, Free> reply(
-        xcb_get_property_reply(display.get(), cookie, nullptr));
+    const XcbOwned<xcb_get_property_reply_t> reply(xcb_get_property_reply(display.get(), cookie, nullptr));
     if (!reply)
         return {};
     return {static_cast<const char *>(xcb_get_property_value(reply.get())),
@@ -267,11 +262,8 @@ std::optional<GtkMenuBar> findGtkMenuBar(qint32 pid)
     const xcb_atom_t menuBar = atom(display, "_GTK_MENUBAR_OBJECT_PATH");
     if (menuBar == XCB_ATOM_NONE)
         return std::nullopt;
-    xcb_screen_iterator_t screens = xcb_setup_roots_iterator(xcb_get_setup(display.get()));
-    for (; screenNumber > 0 && screens.rem > 1; --screenNumber)
-        xcb_screen_next(&screens);
-    const QByteArray windows =
-        property(display, screens.data->root, clientList, maximumWindows * sizeof(xcb_window_t));
+    const QByteArray windows = property(display, X11Connection::rootOfScreen(display.get(), screenNumber),
+                                        clientList, maximumWindows * sizeof(xcb_window_t));
     for (const xcb_window_t window : numbers(windows)) {
         const auto owner = numbers(property(display, window, windowPid, sizeof(uint32_t)));
         if (owner.empty() || owner.front() != static_cast<uint32_t>(pid))

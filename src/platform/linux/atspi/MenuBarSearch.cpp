@@ -21,14 +21,15 @@ MenuBarSearch::MenuBarSearch(BusPipeline &bus, AtspiApplication &application)
 {
 }
 
-void MenuBarSearch::run()
+bool MenuBarSearch::run()
 {
     m_visited.insert(atspiRootPath);
     m_application.children(atspiRootPath,
                            [this](const AtspiApplication::Children &windows) { readWindows(windows); });
-    m_bus.run();
+    const bool isComplete = m_bus.run();
     // Answers come as they come; windows have an order.
     std::ranges::stable_sort(m_bars, {}, &Bar::window);
+    return isComplete;
 }
 
 void MenuBarSearch::readWindows(const AtspiApplication::Children &windows)

@@ -21,8 +21,8 @@ class MenuBarSearch
 public:
     MenuBarSearch(BusPipeline &bus, AtspiApplication &application);
 
-    /// Looks through all windows; what was found until the application fell silent counts.
-    void run();
+    /// Looks through all windows. False when the application fell silent; what was found until then counts.
+    bool run();
 
     /// All menu bars, in the order of their windows.
     [[nodiscard]] std::vector<QByteArray> all() const;

@@ -31,19 +31,34 @@ QString MenuHitTest::run(const std::vector<QByteArray> &containers)
 {
     m_bus.run(); // what was asked before, such as the toolkit's name, decides what is asked now
     m_level = containers;
+    QString title;
     for (int depth = 0; depth < maximumDepth && !m_level.empty(); ++depth) {
+        if (!title.isEmpty())
+            keepOpenMenus();
         m_nextLevel.clear();
         m_candidates.clear();
         for (const QByteArray &path : m_level)
             askContainer(path);
         if (!m_bus.run())
-            return {};
-        QString title = hit();
-        if (!title.isEmpty())
             return title;
+        if (QString deeper = hit(); !deeper.isEmpty())
+            title = std::move(deeper);
         m_level = std::exchange(m_nextLevel, {});
     }
-    return {};
+    return title;
+}
+
+void MenuHitTest::keepOpenMenus()
+{
+    std::vector<QByteArray> open;
+    for (const QByteArray &menu : m_level) {
+        m_application.states(menu, [&open, &menu](const AtspiStates &states) {
+            if (states.isOnScreen())
+                open.push_back(menu);
+        });
+    }
+    m_bus.run();
+    m_level = std::move(open);
 }
 
 void MenuHitTest::askContainer(const QByteArray &path)

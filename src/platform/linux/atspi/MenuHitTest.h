@@ -18,7 +18,8 @@ namespace keyvora {
 class BusPipeline;
 
 /// Finds the menu item that an application shows at a point of the screen. Menus answer for themselves alone,
-/// so each one is asked, level by level from the menu bar down.
+/// so each one is asked, level by level from the menu bar down. A submenu may lie over the menu that it opens
+/// from: the deepest one counts.
 class MenuHitTest
 {
 public:
@@ -43,6 +44,8 @@ private:
     void readCandidate(const QByteArray &path);
     void readChild(const QByteArray &path);
     void addToNextLevel(const QByteArray &menu);
+    /// Goes on with those menus of the level that are open.
+    void keepOpenMenus();
     [[nodiscard]] QString hit() const;
 
     BusPipeline &m_bus;
