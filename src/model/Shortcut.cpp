@@ -117,8 +117,13 @@ std::optional<Shortcut::Category> categoryFromRawValue(const QString &rawValue)
 
 QString displayName(Shortcut::Category category)
 {
+    return displayName(category, Localization::shared().language());
+}
+
+QString displayName(Shortcut::Category category, AppLanguage language)
+{
     const CategoryName &names = namesOf(category);
-    return Localization::shared().text(names.czech, names.english);
+    return language == AppLanguage::Czech ? names.czech : names.english;
 }
 
 QString headerText(const Shortcut &shortcut)

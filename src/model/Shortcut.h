@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "model/AppLanguage.h"
+
 #include <QJsonObject>
 #include <QJsonValue>
 #include <QList>
@@ -57,8 +59,9 @@ QString rawValue(Shortcut::Category category);
 /// The category with exactly this stored name, or nothing.
 std::optional<Shortcut::Category> categoryFromRawValue(const QString &rawValue);
 
-/// The category's name in the current interface language.
+/// The category's name in the current interface language, or in a given one.
 QString displayName(Shortcut::Category category);
+QString displayName(Shortcut::Category category, AppLanguage language);
 
 /// The line above a card's title: the category, and the application where the shortcut belongs to exactly one
 /// whose name is not the category's stored name.

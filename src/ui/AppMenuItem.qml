@@ -19,7 +19,11 @@ T.MenuItem {
     width: ListView.view ? ListView.view.width : implicitWidth
     hoverEnabled: true
     Accessible.name: root.label
-    Accessible.onPressAction: root.triggered()
+    // Assistive technologies press what is off, too.
+    Accessible.onPressAction: {
+        if (root.enabled)
+            root.triggered();
+    }
 
     contentItem: Item {
         implicitWidth: (children[0] as PlainLabel).implicitWidth + (children[1] as PlainLabel).implicitWidth + (root.keysText.length > 0 ? 52 : 24)

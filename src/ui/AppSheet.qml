@@ -15,6 +15,8 @@ T.Popup {
     // Below which the body scrolls.
     property real leastBodyHeight: root.body?.implicitHeight ?? 0
 
+    signal quitRequested
+
     parent: T.Overlay.overlay
     anchors.centerIn: parent
     modal: true
@@ -28,12 +30,20 @@ T.Popup {
     contentItem: SheetBody {
         body: root.body
         leastHeight: root.leastBodyHeight
+        Accessible.role: Accessible.Dialog
+        Accessible.name: root.title
     }
 
     T.Overlay.modal: Rectangle {
         color: Theme.dark ? Qt.rgba(0, 0, 0, 0.5) : Qt.rgba(0, 0, 0, 0.27)
     }
     background: Item {
+        // An open sheet keeps the keys of the menu from the window.
+        Shortcut {
+            sequence: "Ctrl+Q"
+            enabled: root.visible
+            onActivated: root.quitRequested()
+        }
         CardShadow {
             anchors.fill: parent
             cornerRadius: 18
@@ -47,8 +57,6 @@ T.Popup {
             color: Theme.sheet
             borderWidth: Theme.hairlineWidth
             borderColor: Theme.hairline
-            Accessible.role: Accessible.Dialog
-            Accessible.name: root.title
         }
     }
 }

@@ -91,7 +91,7 @@ FocusScope {
             y: Math.floor(card.index / root.columns) * (root.cardHeight + root.spacing)
             width: root.cellWidth - root.spacing
             height: root.cardHeight
-            onPressed: card.focus = true
+            onPressed: card.forceActiveFocus(Qt.MouseFocusReason)
             onFavoriteToggled: shortcutId => root.appModel.toggleFavorite(shortcutId)
         }
         // qmllint enable unqualified

@@ -29,7 +29,14 @@ T.ComboBox {
     implicitHeight: 32
     leftPadding: 11
     rightPadding: 11
-    model: Localized.categoryCount
+    // The names, so that a letter finds one. They stay as they are when the language changes, and with them the choice.
+    model: Array.from({
+        "length": Localized.categoryCount
+    }, (_, index) => ({
+                "czech": Localized.categoryName(index, true),
+                "english": Localized.categoryName(index, false)
+            }))
+    textRole: Localized.czech ? "czech" : "english"
     displayText: Localized.categoryName(root.currentIndex, Localized.czech)
     Accessible.name: root.name
     Accessible.description: root.displayText

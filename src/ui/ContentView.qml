@@ -230,8 +230,13 @@ FocusScope {
                 ignoreUnknownSignals: true
 
                 function onSkipping(hasFocus: bool): void {
-                    if (hasFocus)
+                    if (!hasFocus)
+                        return;
+                    // Who uses the mouse is not taken into a control: that of the practice would take all keys.
+                    if (Theme.showsFocus || root.showsLibrary)
                         root.focusPage();
+                    else
+                        page.forceActiveFocus();
                 }
             }
             LibraryView {
@@ -321,6 +326,9 @@ FocusScope {
     Connections {
         target: sheet.item
 
+        function onQuitRequested(): void {
+            root.appMenu.quitRequested();
+        }
         function onClosed(): void {
             root.followSheet();
         }

@@ -9,20 +9,22 @@ PressButton {
     id: root
 
     required property string token
+    // Whether keys are marked at all, and whether this one is.
+    property bool isMarking: false
     property bool available: false
     property bool selected: false
 
     readonly property bool isInPlay: root.selected || root.available
-    readonly property color ink: root.selected ? Theme.accentInk : root.available ? Theme.accent : Theme.tertiaryInk
+    readonly property color ink: root.selected ? Theme.accentInk : root.available ? Theme.accentText : Theme.tertiaryInk
 
     // Arrow keys lead here, not Tab.
     focusPolicy: Qt.ClickFocus
     label: Localized.keyCapLabel(root.token, Localized.czech)
     Accessible.name: {
         let name = Localized.spokenKeys([root.token], Localized.czech);
-        if (Localized.czech)
+        if (root.isMarking && Localized.czech)
             name += root.available ? ", dostupná" : ", nedostupná";
-        else
+        else if (root.isMarking)
             name += root.available ? ", available" : ", not available";
         if (root.selected)
             name += Localized.czech ? ", vybraná" : ", selected";

@@ -9,6 +9,8 @@ FocusScope {
     id: root
 
     required property VisualKeyboard keyboard
+    // Whether keys are marked at all.
+    property bool isMarking: false
 
     readonly property int padding: 14
     readonly property int gap: 7
@@ -159,6 +161,7 @@ FocusScope {
             width: root.edge(key.place, key.place.before + key.place.size) - root.edge(key.place, key.place.before)
             height: root.keyHeight
             token: key.place.token
+            isMarking: root.isMarking
             available: Array.from(root.keyboard.availableKeys).includes(key.token)
             selected: root.keyboard.selectedKey === key.token
             onClicked: root.keyboard.select(key.token)

@@ -4,12 +4,12 @@
 import QtQuick
 import Keyvora
 
-// Says that nothing matches, and what to do about it.
+// Says that nothing matches, and what to do about it. Screen readers tell it when it comes.
 Column {
     id: root
 
     spacing: 8
-    Accessible.role: Accessible.StaticText
+    Accessible.role: Accessible.AlertMessage
     Accessible.name: heading.text
     Accessible.description: advice.text
 

@@ -20,7 +20,7 @@ GlassButton {
 
     // An import does not make the button smaller, nor does its count move what stands beside the button.
     implicitWidth: Math.max(implicitContentWidth, root.isImporting ? Math.max(idle.contentWidth, counted.contentWidth) : 0) + leftPadding + rightPadding
-    symbol: root.isImporting ? "hourglass_empty" : "download"
+    symbol: "download"
     trailingSymbol: root.isImporting ? "" : "keyboard_arrow_down"
     label: !root.isImporting ? idle.text : root.total > 0 ? root.countText(root.current) : Localized.czech ? "Importuji…" : "Importing…"
     onClicked: {

@@ -24,6 +24,8 @@ FocusScope {
         Accessible.name: choice.text
         Accessible.onPressAction: choice.clicked()
         Accessible.onToggleAction: choice.clicked()
+        Keys.onReturnPressed: choice.clicked()
+        Keys.onEnterPressed: choice.clicked()
         onClicked: Localized.czech = choice.isCzech
 
         contentItem: PlainLabel {

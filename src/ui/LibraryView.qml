@@ -27,10 +27,12 @@ FocusScope {
         grid.resume(contentY, row);
     }
 
-    // Moves the keyboard into the cards.
+    // Moves the keyboard into the cards, or where there are none to what may be in their way.
     function focusCards(): void {
         if (grid.count > 0)
             grid.forceActiveFocus(Qt.TabFocusReason);
+        else
+            filterBar.focusFirst();
     }
 
     ModifierFilterBar {

@@ -46,10 +46,12 @@ QString Localized::spokenKeys(const QStringList &tokens, [[maybe_unused]] bool c
     return words.join(u' ');
 }
 
-QString Localized::categoryName(int category, [[maybe_unused]] bool czech) const
+QString Localized::categoryName(int category, bool czech) const
 {
     const auto position = static_cast<size_t>(category);
-    return position < allCategories.size() ? displayName(allCategories[position]) : QString();
+    return position < allCategories.size()
+               ? displayName(allCategories[position], czech ? AppLanguage::Czech : AppLanguage::English)
+               : QString();
 }
 
 QString Localized::categorySymbol(int category) const

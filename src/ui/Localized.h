@@ -35,7 +35,7 @@ public:
     [[nodiscard]] Q_INVOKABLE QString spokenKeys(const QStringList &tokens, bool czech) const;
 
     [[nodiscard]] static int categoryCount() { return static_cast<int>(allCategories.size()); }
-    /// The name of a category, given by its position in the order of display. `czech` as for `keyCapLabel`.
+    /// The name of a category in one language, given by its position in the order of display.
     [[nodiscard]] Q_INVOKABLE QString categoryName(int category, bool czech) const;
     /// The symbol of a category, given by its position in the order of display.
     [[nodiscard]] Q_INVOKABLE QString categorySymbol(int category) const;

@@ -10,6 +10,10 @@ Row {
 
     required property AppModel appModel
 
+    function focusFirst(): void {
+        first.forceActiveFocus(Qt.TabFocusReason);
+    }
+
     height: 30
     spacing: 8
 
@@ -49,7 +53,7 @@ Row {
         onClicked: {
             // What is hidden would keep the keyboard.
             if (clear.activeFocus)
-                first.forceActiveFocus(Qt.TabFocusReason);
+                root.focusFirst();
             root.appModel.clearModifiers();
         }
     }

@@ -12,6 +12,12 @@ T.CheckBox {
     required property string token
     required property AppModel appModel
 
+    // A key that is held presses once.
+    function press(event: var): void {
+        if (!event.isAutoRepeat)
+            root.clicked();
+    }
+
     implicitWidth: Math.max(42, implicitContentWidth + 20)
     implicitHeight: 30
     checked: Array.from(root.appModel.modifierTokens).includes(root.token)
@@ -22,6 +28,8 @@ T.CheckBox {
     Accessible.name: root.token + " " + Localized.spokenKeys([root.token], Localized.czech)
     Accessible.onPressAction: root.clicked()
     Accessible.onToggleAction: root.clicked()
+    Keys.onReturnPressed: event => root.press(event)
+    Keys.onEnterPressed: event => root.press(event)
 
     contentItem: PlainLabel {
         text: root.token

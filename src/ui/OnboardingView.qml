@@ -36,6 +36,8 @@ AppSheet {
                 text: Localized.czech ? "Pár věcí, co stojí za to hned vědět." : "A few things worth knowing right away."
                 size: 13
                 color: Theme.secondaryInk
+                Accessible.role: Accessible.StaticText
+                Accessible.name: text
             }
         }
         OnboardingRow {

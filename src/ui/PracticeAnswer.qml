@@ -4,7 +4,8 @@
 import QtQuick
 import Keyvora
 
-// Whether an answer was right, by symbol, text and colour, and the keys that are. Screen readers tell it when it comes.
+// Whether an answer was right, by symbol, text and colour, and the keys that would have been. Screen readers tell it when it
+// comes.
 Column {
     id: root
 
@@ -15,7 +16,7 @@ Column {
     spacing: 8
     Accessible.role: Accessible.AlertMessage
     Accessible.name: verdict.text
-    Accessible.description: Localized.spokenKeys(root.keys, Localized.czech)
+    Accessible.description: root.isCorrect ? "" : Localized.spokenKeys(root.keys, Localized.czech)
 
     Row {
         anchors.horizontalCenter: parent.horizontalCenter
@@ -43,15 +44,16 @@ Column {
 
         width: parent.width
         height: 30
-        clip: caps.width > place.width
+        visible: !root.isCorrect
+        clip: caps.implicitWidth > place.width
 
         KeyCaps {
             id: caps
             // The modifiers come first.
-            x: Math.max(0, (place.width - caps.width) / 2)
+            x: Math.max(0, (place.width - caps.implicitWidth) / 2)
             anchors.verticalCenter: parent.verticalCenter
             keys: root.keys // qmllint disable type
-            compact: root.keys.length > 8
+            availableWidth: place.width
         }
     }
 }

@@ -18,7 +18,11 @@ T.Button {
     }
 
     Accessible.name: root.label
-    Accessible.onPressAction: root.clicked()
+    // Assistive technologies press what is off, too.
+    Accessible.onPressAction: {
+        if (root.enabled)
+            root.clicked();
+    }
     Keys.onReturnPressed: event => root.press(event)
     Keys.onEnterPressed: event => root.press(event)
 }

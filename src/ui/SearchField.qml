@@ -11,6 +11,12 @@ T.TextField {
 
     required property AppModel appModel
 
+    // The button in it goes, and would keep the keyboard.
+    function empty(): void {
+        root.clear();
+        root.forceActiveFocus(Qt.OtherFocusReason);
+    }
+
     implicitWidth: 169
     implicitHeight: 32
     leftPadding: 33
@@ -30,7 +36,7 @@ T.TextField {
     onTextChanged: root.appModel.search = root.text
     Keys.onEscapePressed: event => {
         event.accepted = root.text.length > 0;
-        root.clear();
+        root.empty();
     }
 
     Connections {
@@ -66,7 +72,7 @@ T.TextField {
         }
     }
 
-    T.AbstractButton {
+    SymbolButton {
         id: clearButton
 
         anchors.right: parent.right
@@ -75,26 +81,9 @@ T.TextField {
         width: 24
         height: 24
         visible: root.text.length > 0
-        opacity: clearButton.down ? 0.7 : 1
-        Accessible.name: Localized.czech ? "Vymazat hledání" : "Clear search"
-        Accessible.onPressAction: clearButton.clicked()
-        onClicked: {
-            root.clear();
-            root.forceActiveFocus(Qt.OtherFocusReason);
-        }
-
-        contentItem: Item {
-            Symbol {
-                anchors.centerIn: parent
-                name: "cancel-fill"
-                size: 15
-                color: clearButton.hovered ? Theme.ink : Theme.secondaryInk
-            }
-        }
-        background: FocusRing {
-            control: clearButton
-            cornerRadius: 10
-            gap: -1
-        }
+        symbol: "cancel-fill"
+        size: 15
+        label: Localized.czech ? "Vymazat hledání" : "Clear search"
+        onClicked: root.empty()
     }
 }

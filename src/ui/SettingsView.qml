@@ -23,6 +23,8 @@ AppSheet {
         settings: root.settings
         customs: root.customs
         onClosed: root.close()
+        Accessible.role: Accessible.Dialog
+        Accessible.name: root.title
     }
 
     Connections {
@@ -36,5 +38,6 @@ AppSheet {
     AlertSheet {
         id: alert
         title: Localized.czech ? "Nastavení se nepodařilo změnit" : "Couldn't change the setting"
+        onQuitRequested: root.quitRequested()
     }
 }

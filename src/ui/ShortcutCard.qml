@@ -28,6 +28,9 @@ Item {
     Accessible.role: Accessible.ListItem
     Accessible.name: root.title
     Accessible.description: Localized.spokenKeys(root.keys, Localized.czech) + ". " + root.detail
+    // Whether it is a favourite, which the keyboard toggles here.
+    Accessible.checkable: true
+    Accessible.checked: root.isFavorite
     Accessible.focusable: true
     Accessible.focused: root.activeFocus
 

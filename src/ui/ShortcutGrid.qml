@@ -61,6 +61,11 @@ GridView {
     Accessible.role: Accessible.List
     Accessible.name: Localized.czech ? "Zkratky" : "Shortcuts"
 
+    // The keyboard may come to a card that was scrolled away.
+    onActiveFocusChanged: {
+        if (root.activeFocus && Theme.showsFocus)
+            root.positionViewAtIndex(root.currentIndex, GridView.Contain);
+    }
     onMovementStarted: root.revealedRow = -1
     onCountChanged: root.revealedRow = -1
     onHeightChanged: root.showRevealed()
@@ -96,7 +101,10 @@ GridView {
 
         width: root.cellWidth - root.spacing
         height: root.cardHeight
-        onPressed: root.currentIndex = index
+        onPressed: {
+            root.currentIndex = index;
+            root.forceActiveFocus(Qt.MouseFocusReason);
+        }
         onFavoriteToggled: shortcutId => root.appModel.toggleFavorite(shortcutId)
     }
     // qmllint enable unqualified

@@ -41,7 +41,7 @@ T.ItemDelegate {
             height: parent.height
             text: root.label
             size: 12.5
-            color: root.selected ? Theme.accent : Theme.ink
+            color: root.selected ? Theme.accentText : Theme.ink
             font.weight: root.selected ? Theme.strongWeight : Theme.regularWeight
         }
     }

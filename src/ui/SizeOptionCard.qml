@@ -19,6 +19,8 @@ T.RadioButton {
     Accessible.description: root.detail
     Accessible.onPressAction: root.clicked()
     Accessible.onToggleAction: root.clicked()
+    Keys.onReturnPressed: root.clicked()
+    Keys.onEnterPressed: root.clicked()
 
     contentItem: Column {
         spacing: 2

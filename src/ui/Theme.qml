@@ -38,6 +38,8 @@ QtObject {
                                                                   : Qt.rgba(27 / 255, 27 / 255, 34 / 255, 0.28)
     readonly property color accent: dark ? "#8B8BF5" : "#5B5BD6"
     readonly property color accentInk: dark ? "#15151B" : "#FFFFFF"
+    // Of text on a tint of itself, or on a tinted surface.
+    readonly property color accentText: highContrast ? accent : dark ? "#A2A2F9" : "#5454CF"
     readonly property color softAccent: soft(accent)
     readonly property color hoverFill: dark ? Qt.rgba(1, 1, 1, 0.05) : Qt.rgba(20 / 255, 20 / 255, 40 / 255, 0.045)
     readonly property color switchTrack: highContrast ? secondaryInk : dark ? "#5B5B68" : "#9A9AA6"

@@ -25,6 +25,7 @@ ScrollPage {
         width: parent.width
         focus: true
         keyboard: root.keyboard
+        isMarking: root.appModel.modifierTokens.length > 0
     }
     Item {
         width: parent.width

@@ -82,6 +82,25 @@ KeyvoraTestCase {
         verify(contrast(Theme.accentInk, Theme.accent) >= 4.5);
     }
 
+    // What is drawn of a colour over another one.
+    function over(tint: color, base: color): color {
+        const part = (above, below) => above * tint.a + below * (1 - tint.a);
+        return Qt.rgba(part(tint.r, base.r), part(tint.g, base.g), part(tint.b, base.b), 1);
+    }
+
+    function test_chosenTextStandsOutFromItsTint_data(): list<var> {
+        return test_textStandsOutFromWhatItIsOn_data();
+    }
+
+    function test_chosenTextStandsOutFromItsTint(data: var): void {
+        Theme.dark = data.dark;
+        for (const backdrop of [Theme.base, over(Theme.firstGlow, Theme.base)]) {
+            const row = over(Theme.softAccent, over(Theme.sidebarGlass, backdrop));
+            verify(contrast(Theme.accentText, row) >= 4.5, "row on " + backdrop);
+            verify(contrast(Theme.accentText, over(Theme.capFill, over(Theme.glass, backdrop))) >= 4.5, "key on " + backdrop);
+        }
+    }
+
     function test_keysThatDoSomethingAreToldByMoreThanTheirColour(): void {
         Theme.highContrast = true;
         root.item.show(keysComponent);

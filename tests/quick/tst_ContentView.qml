@@ -96,7 +96,7 @@ KeyvoraTestCase {
         Fixture.learning.keyboard.select("S");
         Fixture.sections.select(2);
         compare(Fixture.sections.pageTitle, "Visual Keyboard");
-        const key = named("S, not available, selected");
+        const key = named("S, selected");
         verify(key.activeFocus);
         named("Open Full Library").forceActiveFocus();
         Fixture.sections.select(6);
@@ -107,6 +107,33 @@ KeyvoraTestCase {
         Fixture.sections.select(6);
         keyClick(Qt.Key_Tab);
         verify(!findAll(item, candidate => candidate instanceof KeyCaptureView)[0].activeFocus);
+    }
+
+    function test_controlQQuitsOverAnOpenSheet_data(): list<var> {
+        return [
+            {
+                "tag": "Settings"
+            },
+            {
+                "tag": "Add Custom"
+            }
+        ];
+    }
+
+    function test_controlQQuitsOverAnOpenSheet(data: var): void {
+        quitSpy.clear();
+        mouseClick(named(data.tag));
+        keyClick(Qt.Key_Q, Qt.ControlModifier);
+        compare(quitSpy.count, 1);
+    }
+
+    function test_escapeOnTheButtonThatEmptiesTheSearchLeadsToTheField(): void {
+        Fixture.appModel.search = "copy";
+        const button = named("Clear search");
+        button.forceActiveFocus();
+        keyClick(Qt.Key_Escape);
+        compare(Fixture.appModel.search, "");
+        verify(findAll(item, candidate => candidate instanceof SearchField)[0].activeFocus);
     }
 
     function test_downFromTheSearchFieldGoesIntoTheScreen(): void {
@@ -405,6 +432,12 @@ KeyvoraTestCase {
         const bottom = row.mapToItem(list, 0, row.height).y;
         verify(bottom > 0 && bottom <= list.height);
         verify(named("Settings").mapToItem(item, 0, 0).y < item.height - 20);
+    }
+
+    SignalSpy {
+        id: quitSpy
+        target: Fixture.appMenu
+        signalName: "quitRequested"
     }
 
     name: "ContentView"

@@ -66,7 +66,9 @@ KeyvoraTestCase {
         const name = "An Application With a Very Long Name Indeed, Longer Than the Overlay";
         Fixture.addCustomFor(name, "A command whose title is so long that no line of the overlay could hold it", ["⌃", "⇧", "⌥", "Page Down", "→", "⌃", "Backspace", "→", "Insert"]);
         Fixture.activate(name);
-        for (const label of findAll(item, candidate => candidate instanceof PlainLabel && candidate.text.length > 40)) {
+        const labels = findAll(item, candidate => candidate instanceof PlainLabel && candidate.text.length > 40);
+        compare(labels.length, 2);
+        for (const label of labels) {
             verify(label.truncated, label.text);
             verify(label.width >= 80, label.text);
         }

@@ -196,6 +196,17 @@ KeyvoraTestCase {
         compare(category.displayText, "Browser");
     }
 
+    function test_aLetterFindsACategory(): void {
+        open();
+        named("Category").forceActiveFocus();
+        keyClick(Qt.Key_F);
+        compare(named("Category").displayText, "Finder");
+        compare(draft.category, 3);
+        Localized.czech = true;
+        keyClick(Qt.Key_P);
+        compare(named("Kategorie").displayText, "Prohlížeč");
+    }
+
     function test_pressedKeysAreWritten(): void {
         open();
         type("mine");

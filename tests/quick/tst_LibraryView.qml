@@ -66,6 +66,45 @@ KeyvoraTestCase {
         tryVerify(() => cardTitles()[0] === "Copy");
     }
 
+    function test_aClickOnACardBringsTheKeyboardThere(): void {
+        mouseClick(card("Paste"), 60, 100);
+        verify(card("Paste").activeFocus);
+        keyClick(Qt.Key_Space);
+        verify(!card("Paste").isFavorite);
+    }
+
+    function test_theKeyboardComesToACardThatIsInView(): void {
+        const grid = findAll(item, candidate => candidate instanceof ShortcutGrid)[0];
+        Theme.showsFocus = true;
+        grid.contentY = 1500;
+        item.focusCards();
+        const copy = card("Copy");
+        verify(copy !== null && copy.activeFocus);
+        verify(copy.mapToItem(grid, 0, 0).y >= 0);
+    }
+
+    function test_theKeyboardIsNotLostWhereThereAreNoCards(): void {
+        Fixture.appModel.search = "qqqq";
+        item.focusCards();
+        verify(named("⌘ Command").activeFocus);
+    }
+
+    function test_returnSwitchesAFilter(): void {
+        const pill = named("⌘ Command");
+        pill.forceActiveFocus();
+        keyClick(Qt.Key_Return);
+        compare(Array.from(Fixture.appModel.modifierTokens), ["⌘"]);
+        keyClick(Qt.Key_Enter);
+        compare(Array.from(Fixture.appModel.modifierTokens), []);
+    }
+
+    function test_screenReadersHearOfAFavorite(): void {
+        verify(card("Copy").Accessible.checked);
+        verify(!card("Undo").Accessible.checked);
+        Fixture.appModel.toggleFavorite("undo");
+        verify(card("Undo").Accessible.checked);
+    }
+
     function test_columnsAreAtLeast250PointsWide_data(): var {
         return [
             {

@@ -145,9 +145,22 @@ KeyvoraTestCase {
     function test_skippingOnAScreenOfItsOwnKeepsTheKeyboardThere(): void {
         mouseClick(named("First Aid"));
         announce("1.10", page, "");
+        Theme.showsFocus = true;
         button("Skip").forceActiveFocus();
         keyClick(Qt.Key_Return);
         verify(card("Force Quit").activeFocus);
+    }
+
+    function test_aClickOnSkipTakesNobodyIntoAControl(): void {
+        mouseClick(named("Practice"));
+        announce("1.10", page, "");
+        mouseClick(button("Skip"));
+        verify(banner() === null);
+        const field = findAll(item, candidate => candidate instanceof KeyCaptureView)[0];
+        verify(!field.capturing);
+        verify(!Theme.showsFocus);
+        keyClick(Qt.Key_Tab);
+        verify(field.capturing);
     }
 
     function test_notesAreToldAsTheyAre(): void {
