@@ -38,7 +38,7 @@ set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 # The print system's library is loaded by name, which dpkg-shlibdeps does not see.
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "${RUN_PACKAGES}, libcups2")
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "default-dbus-session-bus | dbus-session-bus, gsettings-desktop-schemas")
-set(CPACK_DEBIAN_PACKAGE_SUGGESTS "cups-client, xdg-desktop-portal")
+set(CPACK_DEBIAN_PACKAGE_SUGGESTS "cups-client, libproxy1-plugin-gsettings | libproxy1-plugin-kconfig, xdg-desktop-portal")
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${CMAKE_LIBRARY_OUTPUT_DIRECTORY})
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
