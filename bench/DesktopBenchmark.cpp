@@ -15,6 +15,7 @@
 #include "system/KeyvoraApp.h"
 
 #include <QApplication>
+#include <QDeadlineTimer>
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QProcess>
@@ -111,14 +112,16 @@ void releaseKeys()
     settle(300);
 }
 
-void measureOverlay()
+/// False when something does not come, as of the next one.
+bool measureOverlay()
 {
     // The first time loads what the second finds ready.
     holdKeys();
     QQuickWindow *overlay = nullptr;
-    while (overlay == nullptr) {
+    for (QDeadlineTimer deadline(patienceMs); overlay == nullptr; overlay = windowThatIs(Qt::ToolTip)) {
+        if (deadline.hasExpired())
+            return false;
         settle(10);
-        overlay = windowThatIs(Qt::ToolTip);
     }
     settle(300);
     releaseKeys();
@@ -128,10 +131,8 @@ void measureOverlay()
         QElapsedTimer sinceKeys;
         sinceKeys.start();
         holdKeys();
-        if (!waitFor(overlay, &QQuickWindow::frameSwapped)) {
-            std::printf("the overlay does not come\n");
-            return;
-        }
+        if (!waitFor(overlay, &QQuickWindow::frameSwapped))
+            return false;
         // The way of the keys, and the program that presses them, are in it.
         times.push_back(static_cast<double>(sinceKeys.nsecsElapsed()) / 1e6 -
                         static_cast<double>(HoldToShowObserver::threshold.count()));
@@ -140,13 +141,15 @@ void measureOverlay()
     std::ranges::sort(times);
     std::printf("end of a hold to the overlay's first frame: median %.1f ms, at most %.1f ms\n",
                 times[times.size() / 2], times.back());
+    return true;
 }
 
-void measureImport(FakeApplicationInstance &instance)
+bool measureImport(FakeApplicationInstance &instance)
 {
     instance.activate();
     auto *window = qobject_cast<QQuickView *>(windowThatIs(Qt::Window));
-    waitFor(window, &QQuickWindow::frameSwapped);
+    if (window == nullptr || !waitFor(window, &QQuickWindow::frameSwapped))
+        return false;
     settle(1000);
     auto *model = window->rootObject()->property("appModel").value<AppModel *>();
     const qsizetype before = model->customShortcuts().size();
@@ -154,12 +157,14 @@ void measureImport(FakeApplicationInstance &instance)
     QElapsedTimer time;
     time.start();
     model->importFrontmostMenu();
-    waitFor(model, &AppModel::importMessageChanged);
+    if (!waitFor(model, &AppModel::importMessageChanged))
+        return false;
     const double took = static_cast<double>(time.nsecsElapsed()) / 1e6;
     settle(1000);
     std::printf("import from %s: %lld shortcuts in %.1f ms\n", qPrintable(model->activeApp()),
                 static_cast<long long>(model->customShortcuts().size() - before), took);
     slices.print("import with the window open");
+    return true;
 }
 
 } // namespace
@@ -175,7 +180,8 @@ int main(int argc, char **argv)
     const KeyvoraApp keyvora(instance, QProcessEnvironment::systemEnvironment());
     // The watch begins once the desktop said that it may.
     settle(1000);
-    measureOverlay();
-    measureImport(instance);
-    return 0;
+    if (measureOverlay() && measureImport(instance))
+        return 0;
+    std::fprintf(stderr, "what is measured does not come\n");
+    return 1;
 }

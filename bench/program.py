@@ -12,7 +12,6 @@ import sys
 import tempfile
 import time
 
-sys.dont_write_bytecode = True
 HERE = pathlib.Path(__file__).resolve().parent
 sys.path.insert(0, str(HERE.parent / "tests" / "desktop"))
 
@@ -107,13 +106,3 @@ def rested(process):
         time.sleep(1)
         looks.append(pss(process))
     return looks[-1]
-
-
-def call(method, *arguments):
-    """Has the program do something in the way in which desktops do."""
-    subprocess.run(
-        ["gdbus", "call", "--session", "--dest", "app.keyvora.Keyvora", "--object-path", "/app/keyvora/Keyvora"]
-        + ["--method", f"org.freedesktop.Application.{method}", *arguments],
-        stdout=subprocess.DEVNULL,
-        check=True,
-    )
