@@ -210,11 +210,6 @@ class BusGoneTest(KeyvoraTestCase):
         self.window(self.program, WINDOW_TITLE)
         self.bus_goes()
 
-    def test_as_soon_as_it_is_there(self):
-        self.program = self.start_program(**self.bus.environment)
-        self.bus.wait_for_name(BUS_NAME)
-        self.bus_goes()
-
     def test_a_bus_that_is_asked_to_end_is_the_same(self):
         self.start_there()
         self.bus.process.terminate()

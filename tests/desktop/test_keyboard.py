@@ -214,8 +214,11 @@ class WindowTest(KeyboardTestCase):
     def test_the_window_cannot_be_made_too_small(self):
         self.launch_for_keyboard()
         window = self.window(self.program)
+        windows.resize(window, 1100, 760)
+        self.wait_for(lambda: windows.frame_free_geometry(window).width == 1100, "the window is larger")
         windows.resize(window, 300, 200)
-        self.watch(lambda: windows.frame_free_geometry(window).width < 840, "the window is too small", seconds=0.5)
+        self.wait_for(lambda: windows.frame_free_geometry(window).width < 1100, "the window is smaller")
+        self.assertGreaterEqual(windows.frame_free_geometry(window).width, 840)
         self.assertGreaterEqual(windows.frame_free_geometry(window).height, 560)
 
     def test_control_q_ends_the_program(self):

@@ -29,8 +29,7 @@ class FirstLaunchTest(KeyvoraTestCase):
         self.see_gone(Role.PUSH_BUTTON, "Get Started")
 
     def test_the_greeting_is_in_the_language_of_the_desktop(self):
-        self.defaults.write({"appLanguage": "cs"})
-        self.launch()
+        self.launch(LANG="cs_CZ.UTF-8")
         self.see(Role.PUSH_BUTTON, "Začít")
 
     def test_greets_once_even_if_the_greeting_was_not_closed(self):

@@ -2,6 +2,7 @@
 # SPDX-License-Identifier: MIT
 """The menu bar of the window."""
 
+import re
 import unittest
 
 from desktop import windows
@@ -142,6 +143,7 @@ class CommandsTest(MenuTestCase):
             return [window for window in windows.of_process(self.program.pid) if window != main_window]
 
         self.wait_for(about_window, "there is a window about the program")
+        self.see(Role.LABEL, re.compile(r"^Version \d+\.\d+"))
 
     def test_the_keyboard_alone_chooses_a_command(self):
         self.launch()

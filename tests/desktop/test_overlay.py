@@ -7,13 +7,12 @@ import time
 import unittest
 
 import tray_hosts
-from gi.repository import Gio, GLib
 
 from desktop import keyboard, pointer, windows
 from desktop.accessibility import Role, State
 from desktop.appearances import Appearances
 from desktop.applications import Applications
-from desktop.keyvora import BUS_NAME, WINDOW_TITLE, KeyvoraTestCase
+from desktop.keyvora import WINDOW_TITLE, KeyvoraTestCase
 
 SCREEN_WIDTH, SCREEN_HEIGHT = 1280, 800
 WIDTH = 380
@@ -220,22 +219,9 @@ class ContentTest(OverlayTestCase):
 class ActionTest(OverlayTestCase):
     """Opened by an action, which desktops may bind to whatever they like."""
 
-    def activate_action(self):
-        Gio.bus_get_sync(Gio.BusType.SESSION, None).call_sync(
-            BUS_NAME,
-            "/" + BUS_NAME.replace(".", "/"),
-            "org.freedesktop.Application",
-            "ActivateAction",
-            GLib.Variant("(sava{sv})", ("overlay", [], {})),
-            None,
-            Gio.DBusCallFlags.NONE,
-            5000,
-            None,
-        )
-
     def setUp(self):
         super().setUp()
-        self.activate_action()
+        self.perform_action("overlay")
         self.see_overlay()
 
     def test_leaves_the_keyboard_where_it_is(self):
@@ -249,7 +235,7 @@ class ActionTest(OverlayTestCase):
         self.watch(lambda: not windows.is_shown(window), "the overlay is gone")
 
     def test_goes_with_the_same_action(self):
-        self.activate_action()
+        self.perform_action("overlay")
         self.see_no_overlay()
 
     def test_its_close_button_closes_it(self):

@@ -5,12 +5,10 @@
 import json
 import subprocess
 
-from gi.repository import Gio, GLib
-
 from desktop import keyboard, windows
 from desktop.accessibility import Rectangle, Role
 from desktop.appearances import Appearances
-from desktop.keyvora import BUS_NAME, FIELD_ROLES, WINDOW_TITLE, KeyvoraTestCase
+from desktop.keyvora import FIELD_ROLES, WINDOW_TITLE, KeyvoraTestCase
 
 # The desktop's screen, which the window does not fill at its ordinary size but does not hold it twice as large.
 SCREEN = Rectangle(0, 0, 1280, 800)
@@ -36,20 +34,6 @@ class ScalingTestCase(KeyvoraTestCase):
         place = self.see_whole()
         for length, ordinary in zip(place[2:], ORDINARY, strict=True):
             self.assertAlmostEqual(length, ordinary * factor, delta=1)
-
-    def call_action(self, name):
-        """Does what the desktop's own key settings can ask for."""
-        Gio.bus_get_sync(Gio.BusType.SESSION, None).call_sync(
-            BUS_NAME,
-            "/app/keyvora/Keyvora",
-            "org.freedesktop.Application",
-            "ActivateAction",
-            GLib.Variant("(sava{sv})", (name, [], {})),
-            None,
-            Gio.DBusCallFlags.NONE,
-            10000,
-            None,
-        )
 
     def remember_frame(self, frame):
         path = self.directory / "state" / "keyvora" / "windows.json"
@@ -117,7 +101,7 @@ class TestSeveralScreens(ScalingTestCase):
     def test_the_overlay_goes_to_the_corner_of_the_main_screen(self):
         self.launch(QT_SCALE_FACTOR="1.25")
         appearances = Appearances(self)
-        self.call_action("overlay")
+        self.perform_action("overlay")
         self.see(Role.PANEL, "Shortcut overlay")
         place = windows.frame_free_geometry(appearances.of_process(self.program)[-1])
         self.assertAlmostEqual(place.y, CORNER_MARGIN * 1.25, delta=1)

@@ -129,6 +129,20 @@ class KeyvoraTestCase(DesktopTestCase):
         screen = self.screen
         self.wait_for(lambda: not screen.find(role, name), f"{name!r} is gone")
 
+    def perform_action(self, name):
+        """Does what the desktop's own key settings can ask for."""
+        Gio.bus_get_sync(Gio.BusType.SESSION, None).call_sync(
+            BUS_NAME,
+            "/" + BUS_NAME.replace(".", "/"),
+            "org.freedesktop.Application",
+            "ActivateAction",
+            GLib.Variant("(sava{sv})", (name, [], {})),
+            None,
+            Gio.DBusCallFlags.NONE,
+            10000,
+            None,
+        )
+
     def row(self, name):
         """A row of the sidebar."""
         screen = self.screen
