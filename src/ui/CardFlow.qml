@@ -13,12 +13,9 @@ FocusScope {
     required property ShortcutListModel shortcuts
 
     readonly property alias count: cards.count
-    readonly property int spacing: 14
-    readonly property int minimumColumnWidth: 250
-    readonly property int cardHeight: 145
-    readonly property int columns: Math.max(1, Math.floor((root.width + root.spacing) / (root.minimumColumnWidth + root.spacing)))
+    readonly property int columns: Theme.cardColumns(root.width)
     readonly property int rows: Math.ceil(root.count / root.columns)
-    readonly property int cellWidth: Math.floor((root.width + root.spacing) / root.columns)
+    readonly property int cellWidth: Math.floor((root.width + Theme.cardSpacing) / root.columns)
 
     function focusedIndex(): int {
         for (let i = 0; i < cards.count; ++i) {
@@ -36,7 +33,7 @@ FocusScope {
         return true;
     }
 
-    implicitHeight: Math.max(0, root.rows * (root.cardHeight + root.spacing) - root.spacing)
+    implicitHeight: Math.max(0, root.rows * (Theme.cardHeight + Theme.cardSpacing) - Theme.cardSpacing)
     activeFocusOnTab: root.count > 0
     Accessible.role: Accessible.List
     Accessible.name: Localized.czech ? "Zkratky" : "Shortcuts"
@@ -88,9 +85,9 @@ FocusScope {
             required property int index
 
             x: card.index % root.columns * root.cellWidth
-            y: Math.floor(card.index / root.columns) * (root.cardHeight + root.spacing)
-            width: root.cellWidth - root.spacing
-            height: root.cardHeight
+            y: Math.floor(card.index / root.columns) * (Theme.cardHeight + Theme.cardSpacing)
+            width: root.cellWidth - Theme.cardSpacing
+            height: Theme.cardHeight
             onPressed: card.forceActiveFocus(Qt.MouseFocusReason)
             onFavoriteToggled: shortcutId => root.appModel.toggleFavorite(shortcutId)
         }

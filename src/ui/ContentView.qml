@@ -127,19 +127,9 @@ FocusScope {
         }
     }
 
-    Connections {
-        target: root.Window.window
-
-        // Nothing may move under a pointer that is pressed.
-        function onActiveFocusItemChanged(): void {
-            const focused = root.Window.activeFocusItem;
-            if (!Theme.showsFocus)
-                return;
-            for (let item = focused; item !== null; item = item.parent) {
-                if (item === canvas)
-                    viewport.bringIntoView(focused);
-            }
-        }
+    FocusFollower {
+        within: canvas
+        onMoved: focused => viewport.bringIntoView(focused)
     }
 
     Shortcut {

@@ -82,19 +82,9 @@ FocusScope {
         }
     }
 
-    Connections {
-        target: root.Window.window
-
-        // Nothing may move under a pointer that is pressed.
-        function onActiveFocusItemChanged(): void {
-            const focused = root.Window.activeFocusItem;
-            if (!Theme.showsFocus)
-                return;
-            for (let item = focused; item !== null; item = item.parent) {
-                if (item === column)
-                    root.show(focused);
-            }
-        }
+    FocusFollower {
+        within: column
+        onMoved: focused => root.show(focused)
     }
 
     Flickable {

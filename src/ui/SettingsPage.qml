@@ -102,19 +102,9 @@ FocusScope {
         sequence: "Ctrl+Z"
         onActivated: root.customs.undo()
     }
-    Connections {
-        target: root.Window.window
-
-        // Nothing may move under a pointer that is pressed.
-        function onActiveFocusItemChanged(): void {
-            const focused = root.Window.activeFocusItem;
-            if (!Theme.showsFocus)
-                return;
-            for (let item = focused; item !== null; item = item.parent) {
-                if (item === list.contentItem)
-                    root.bringIntoView(focused);
-            }
-        }
+    FocusFollower {
+        within: list.contentItem
+        onMoved: focused => root.bringIntoView(focused)
     }
 
     Item {

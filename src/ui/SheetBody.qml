@@ -3,6 +3,7 @@
 
 import QtQuick
 import QtQuick.Templates as T
+import Keyvora
 
 // What a sheet shows. It scrolls where the window is too low for it.
 Item {
@@ -49,19 +50,9 @@ Item {
         }
     }
 
-    Connections {
-        target: root.Window.window
-
-        // Nothing may move under a pointer that is pressed.
-        function onActiveFocusItemChanged(): void {
-            const focused = root.Window.activeFocusItem;
-            if (!Theme.showsFocus)
-                return;
-            for (let item = focused; item !== null; item = item.parent) {
-                if (item === root.body)
-                    root.bringIntoView(focused);
-            }
-        }
+    FocusFollower {
+        within: root.body
+        onMoved: focused => root.bringIntoView(focused)
     }
 
     Flickable {

@@ -13,11 +13,8 @@ GridView {
 
     property int revealedRow: -1
 
-    readonly property int spacing: 14
     readonly property int padding: 22
-    readonly property int minimumColumnWidth: 250
-    readonly property int cardHeight: 145
-    readonly property int columns: Math.max(1, Math.floor((root.width - 2 * root.padding + root.spacing) / (root.minimumColumnWidth + root.spacing)))
+    readonly property int columns: Theme.cardColumns(root.width - 2 * root.padding)
 
     // Makes the card of a shortcut the current one and brings it into view, where it stays until the person scrolls or
     // moves on: the window may just be getting its size.
@@ -46,11 +43,11 @@ GridView {
 
     // The spacing right of the last column and below the last row is part of their cells.
     leftMargin: root.padding
-    rightMargin: root.padding - root.spacing
+    rightMargin: root.padding - Theme.cardSpacing
     topMargin: 4
-    bottomMargin: root.padding - root.spacing
-    cellWidth: Math.floor((root.width - 2 * root.padding + root.spacing) / root.columns)
-    cellHeight: root.cardHeight + root.spacing
+    bottomMargin: root.padding - Theme.cardSpacing
+    cellWidth: Math.floor((root.width - 2 * root.padding + Theme.cardSpacing) / root.columns)
+    cellHeight: Theme.cardHeight + Theme.cardSpacing
     clip: true
     boundsBehavior: Flickable.StopAtBounds
     activeFocusOnTab: root.count > 0
@@ -99,8 +96,8 @@ GridView {
     delegate: ShortcutCard {
         required property int index
 
-        width: root.cellWidth - root.spacing
-        height: root.cardHeight
+        width: root.cellWidth - Theme.cardSpacing
+        height: Theme.cardHeight
         onPressed: {
             root.currentIndex = index;
             root.forceActiveFocus(Qt.MouseFocusReason);

@@ -32,7 +32,7 @@ T.ItemDelegate {
                 anchors.centerIn: parent
                 name: root.symbol
                 size: 15
-                color: root.selected ? Theme.accent : Theme.secondaryInk
+                color: root.selected ? Theme.accentText : Theme.secondaryInk
             }
         }
         PlainLabel {

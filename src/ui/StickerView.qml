@@ -15,24 +15,17 @@ ScrollPage {
 
     spacing: 6
 
-    PlainLabel {
-        width: parent.width
+    Paragraph {
         text: Localized.czech ? "Nejdůležitější zkratky na jednom místě" : "The most important shortcuts in one place"
         size: 17
         font.weight: Theme.strongWeight
-        wrapMode: Text.Wrap
         Accessible.role: Accessible.Heading
-        Accessible.name: text
     }
-    PlainLabel {
-        width: parent.width
+    Paragraph {
         text: Localized.czech ? "Digitální verze samolepky – přehledná, vždy dostupná a připravená k procvičení."
                               : "A digital cheat sheet — clear, always at hand, ready to practice."
         size: 13
         color: Theme.secondaryInk
-        wrapMode: Text.Wrap
-        Accessible.role: Accessible.StaticText
-        Accessible.name: text
     }
     Item {
         width: 1

@@ -61,6 +61,15 @@ QtObject {
     readonly property int mediumWeight: 540
     readonly property int strongWeight: 650
 
+    // Cards stand in columns that share the width.
+    readonly property int cardHeight: 145
+    readonly property int leastCardWidth: 250
+    readonly property int cardSpacing: 14
+
+    function cardColumns(width: real): int {
+        return Math.max(1, Math.floor((width + cardSpacing) / (leastCardWidth + cardSpacing)));
+    }
+
     // A tint that lets its background through, as wide surfaces want it.
     function soft(tint: color): color {
         return Qt.rgba(tint.r, tint.g, tint.b, dark ? 0.18 : 0.12);

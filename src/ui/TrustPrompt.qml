@@ -15,7 +15,7 @@ AppSheet {
     implicitWidth: 460
     onAboutToHide: root.controller.decline()
 
-    component Paragraph: PlainLabel {
+    component Reason: PlainLabel {
         Layout.fillWidth: true
         size: 12.5
         lineHeight: 1.1
@@ -44,15 +44,15 @@ AppSheet {
             Accessible.role: Accessible.Heading
             Accessible.name: text
         }
-        Paragraph {
+        Reason {
             text: Localized.czech ? "Keyvora z\u00a0menu přečte názvy příkazů a\u00a0jejich klávesové zkratky. Co píšete, nečte nikdy."
                                   : "Keyvora reads the titles of menu commands and their shortcuts. It never reads what you type."
         }
-        Paragraph {
+        Reason {
             text: Localized.czech ? "Povolením zapnete podporu zpřístupnění v\u00a0tomto prostředí, a\u00a0to i\u00a0pro další přihlášení."
                                   : "Allowing this turns on your desktop’s accessibility support, for this session and later ones."
         }
-        Paragraph {
+        Reason {
             text: Localized.czech ? "Spuštěné aplikace Qt a\u00a0KDE je pak potřeba spustit znovu. Návrhy zkratek a\u00a0přehled při podržení kláves začnou fungovat od příštího spuštění aplikace Keyvora."
                                   : "Qt and KDE apps that are already running have to be restarted. Suggestions and the overlay begin the next time Keyvora starts."
         }

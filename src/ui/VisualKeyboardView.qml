@@ -29,7 +29,7 @@ ScrollPage {
     }
     Item {
         width: parent.width
-        height: 4 + Math.max(matches.cardHeight, matches.height)
+        height: 4 + Math.max(Theme.cardHeight, matches.height)
         visible: root.hasChoice
 
         CardFlow {
