@@ -145,9 +145,9 @@ KeyvoraApp::KeyvoraApp(ApplicationInstance &instance, const QProcessEnvironment 
             [this](const QString &token) { m_mainWindow.show(token); });
     connect(&instance, &ApplicationInstance::actionActivated, this, &KeyvoraApp::performAction);
     // A program that goes on would write the same files as the next one.
-    connect(&instance, &ApplicationInstance::sessionLost, qApp, &QCoreApplication::quit);
-    connect(&m_menu, &AppMenu::quitRequested, qApp, &QCoreApplication::quit);
-    connect(&m_terminationSignals, &TerminationSignals::terminationRequested, qApp, &QCoreApplication::quit);
+    connect(&instance, &ApplicationInstance::sessionLost, this, &KeyvoraApp::end);
+    connect(&m_menu, &AppMenu::quitRequested, this, &KeyvoraApp::end);
+    connect(&m_terminationSignals, &TerminationSignals::terminationRequested, this, &KeyvoraApp::end);
     connect(m_statusItem.get(), &StatusItem::activated, this, [this](QPoint position, const QString &token) {
         if (UserInterface *userInterface = m_userInterface.get())
             userInterface->togglePanel(position, token);
@@ -211,11 +211,16 @@ void KeyvoraApp::settle()
     m_updates.checkForUpdate();
 }
 
+void KeyvoraApp::end()
+{
+    m_isEnding = true;
+    QCoreApplication::quit();
+}
+
 void KeyvoraApp::performAction(const QString &action, const QString &activationToken)
 {
     if (action == "quit"_L1) {
-        m_isEnding = true;
-        QCoreApplication::quit();
+        end();
     } else if (action == "practice"_L1) {
         m_model.setSelection({.kind = SidebarSelection::Kind::practice});
         m_mainWindow.show(activationToken);
@@ -256,7 +261,7 @@ UserInterface::Context KeyvoraApp::userInterfaceContext()
         .windowFrames = m_windowFrames,
         .environment = m_environment,
         .showMainWindow = [this] { m_mainWindow.show(); },
-        .quit = [] { QCoreApplication::quit(); },
+        .quit = [this] { end(); },
         .toggleOverlay = [this] { m_overlay.toggle(); },
         // Whether the desktop obeyed shows in the next check.
         .grantTrust = [this] { static_cast<void>(m_accessibility.grantTrust()); },

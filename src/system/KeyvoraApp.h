@@ -53,6 +53,7 @@ private:
     void finishLaunching(bool isByHand);
     /// Does what the start need not wait for.
     void settle();
+    void end();
     void performAction(const QString &action, const QString &activationToken);
     [[nodiscard]] AppModel::Dependencies modelDependencies();
     [[nodiscard]] UserInterface::Context userInterfaceContext();
@@ -85,7 +86,7 @@ private:
     HotKeyCenter m_hotKeyCenter;
     std::unique_ptr<StatusItem> m_statusItem;
     TerminationSignals m_terminationSignals;
-    bool m_isEnding = false; ///< the desktop asked for that, perhaps before anything was to be seen
+    bool m_isEnding = false; ///< somebody asked for that, perhaps before anything was to be seen
 };
 
 } // namespace keyvora
