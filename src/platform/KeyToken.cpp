@@ -9,11 +9,12 @@ using namespace Qt::Literals::StringLiterals;
 
 QString characterToken(char32_t character)
 {
-    if (character == U' ')
-        return u"Space"_s;
     if (character == U'-')
         return u"\u2212"_s;
     const QString text = QString::fromUcs4(&character, 1);
+    // Blanks of other kinds, such as the one that does not break lines, are on the space bar, too.
+    if (text.at(0).isPrint() && text.at(0).isSpace())
+        return u"Space"_s;
     return text.at(0).isPrint() || text.at(0).isSurrogate() ? text : QString();
 }
 
