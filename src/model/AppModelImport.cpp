@@ -25,9 +25,34 @@ void addSignatures(QSet<QString> &signatures, const QList<Shortcut> &shortcuts)
         signatures.insert(menuSignature(shortcut));
 }
 
+/// The room that the user's own data leaves for imports. Without a bound the menus of others could make a
+/// store that the next start does not read.
+class ImportRoom
+{
+public:
+    ImportRoom() = default;
+    explicit ImportRoom(const AppModel::Backup &data)
+    {
+        // Data that takes more than there is leaves none.
+        static_cast<void>(m_allowance.take(data));
+    }
+
+    [[nodiscard]] bool take(const Shortcut &shortcut)
+    {
+        const bool fits = m_allowance.take(shortcut);
+        m_hasRefused = m_hasRefused || !fits;
+        return fits;
+    }
+
+    [[nodiscard]] bool hasRefused() const { return m_hasRefused; }
+
+private:
+    BackupAllowance m_allowance = BackupAllowance::ofImports();
+    bool m_hasRefused = false;
+};
+
 /// What the library does not know yet, with all repetitions, as far as there is room for it.
-QList<Shortcut> unknown(const QList<Shortcut> &shortcuts, const QSet<QString> &signatures,
-                        BackupAllowance &room)
+QList<Shortcut> unknown(const QList<Shortcut> &shortcuts, const QSet<QString> &signatures, ImportRoom &room)
 {
     QList<Shortcut> result;
     for (const Shortcut &shortcut : shortcuts) {
@@ -38,16 +63,6 @@ QList<Shortcut> unknown(const QList<Shortcut> &shortcuts, const QSet<QString> &s
         result.append(shortcut);
     }
     return result;
-}
-
-/// What room the user's own data leaves. Without a bound the menus of others could make a store that the next
-/// start does not read.
-BackupAllowance roomBeside(const AppModel::Backup &data)
-{
-    BackupAllowance room = BackupAllowance::ofImports();
-    // Data that takes more than there is leaves none.
-    static_cast<void>(room.take(data));
-    return room;
 }
 
 /// The applications that this program may read: all but itself.
@@ -66,10 +81,10 @@ QString outcomeWithoutRoom()
                                        u"There is no room for more shortcuts."_s);
 }
 
-QString outcomeOfFrontmost(qsizetype count, const BackupAllowance &room, const QString &appName)
+QString outcomeOfFrontmost(qsizetype count, const ImportRoom &room, const QString &appName)
 {
     const Localization &localization = Localization::shared();
-    if (count == 0 && room.isExceeded())
+    if (count == 0 && room.hasRefused())
         return outcomeWithoutRoom();
     if (count == 0)
         return localization.text(u"V menu nebyly nalezeny žádné nové zkratky."_s,
@@ -78,10 +93,10 @@ QString outcomeOfFrontmost(qsizetype count, const BackupAllowance &room, const Q
         .arg(QString::number(count), appName);
 }
 
-QString outcomeOfRunningApps(qsizetype count, const BackupAllowance &room, int contributors)
+QString outcomeOfRunningApps(qsizetype count, const ImportRoom &room, int contributors)
 {
     const Localization &localization = Localization::shared();
-    if (count == 0 && room.isExceeded())
+    if (count == 0 && room.hasRefused())
         return outcomeWithoutRoom();
     if (count == 0)
         return localization.text(u"V žádné spuštěné aplikaci nebyly nalezeny nové zkratky."_s,
@@ -107,7 +122,7 @@ struct AppModel::RunningAppsImport
             signatures.clear();
             addSignatures(signatures, model.allShortcuts());
             addSignatures(signatures, batch);
-            room = roomBeside(model.backup());
+            room = ImportRoom(model.backup());
             for (const Shortcut &shortcut : batch)
                 static_cast<void>(room.take(shortcut));
         }
@@ -131,7 +146,7 @@ struct AppModel::RunningAppsImport
     int contributors = 0;
 
     QSet<QString> signatures;
-    BackupAllowance room;
+    ImportRoom room;
     AppLanguage language = AppLanguage::English; ///< of the catalog that is in the signatures
     QList<Shortcut> customShortcuts;             ///< those that are in the signatures
 };
@@ -151,7 +166,7 @@ void AppModel::importFrontmostMenu()
         } else {
             QSet<QString> signatures;
             addSignatures(signatures, allShortcuts());
-            BackupAllowance room = roomBeside(backup());
+            ImportRoom room(backup());
             const QList<Shortcut> added = unknown(std::get<QList<Shortcut>>(outcome), signatures, room);
             addImported(added);
             setImportMessage(outcomeOfFrontmost(added.size(), room, appName));

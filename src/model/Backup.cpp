@@ -429,17 +429,12 @@ BackupAllowance BackupAllowance::ofImports()
     return allowance;
 }
 
-bool BackupAllowance::isExceeded() const
-{
-    return m_textCount > BackupLimits::textCount || m_textBytes > BackupLimits::textBytes;
-}
-
 bool BackupAllowance::take(QStringView text)
 {
     ++m_textCount;
     for (const QChar character : text)
         m_textBytes += jsonBytes(character.unicode());
-    return !isExceeded();
+    return m_textCount <= BackupLimits::textCount && m_textBytes <= BackupLimits::textBytes;
 }
 
 bool BackupAllowance::take(const QStringList &texts)

@@ -53,8 +53,6 @@ public:
     [[nodiscard]] bool take(const Shortcut &shortcut);
     /// All texts of the backup, up to the first that does not fit.
     [[nodiscard]] bool take(const Backup &backup);
-    /// Whether something did not fit.
-    [[nodiscard]] bool isExceeded() const;
 
 private:
     [[nodiscard]] bool take(const QStringList &texts);

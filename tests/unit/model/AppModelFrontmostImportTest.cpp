@@ -63,6 +63,16 @@ TEST(FrontmostImport, AddsNoMoreThanABackupHolds)
     EXPECT_EQ(program.model().importMessage(), u"There is no room for more shortcuts."_s);
 }
 
+TEST(FrontmostImport, FindsNothingNewThoughThereIsNoRoom)
+{
+    const Shortcut own = makeShortcut(u"custom-1"_s, u"Own"_s, {u"⌘"_s, u"1"_s}, {},
+                                      QString(BackupLimits::textBytes * 3 / 4, u'x'));
+    Program program({.stored = storedCustom({own}), .frontmost = safari});
+    program.accessibility.setMenuBar(4711, menuOf({menuItem(u"Copy"_s, u"c"_s)}));
+    importFrontmost(program);
+    EXPECT_EQ(program.model().importMessage(), u"No new shortcuts were found in the menu."_s);
+}
+
 TEST(FrontmostImport, AddsNothingTheSecondTime)
 {
     Program program(inFront(safari));
