@@ -5,7 +5,7 @@
 // to what that program then has on the screen. Keys and clicks go in as those of a real keyboard and mouse
 // do; a frame counts once the X server has drawn it. Reads one command a line and answers each with a line:
 //
-//     start tray|frame PROGRAM…              starts a program, and ends it again
+//     start tray|frame|whole PROGRAM…        starts a program, and ends it again
 //     PID EVENT tap|down|up KEY[+KEY…]       keys, such as Control_L+Alt_L+space
 //     PID EVENT click|move X Y
 //     PID EVENT wait                         answers "ready" first, for what happens in another way
@@ -13,7 +13,8 @@
 //
 // The events of a program's window: "frame", "list" (a frame of its lower half), "keyboard" (it has the
 // keyboard), "focus" (a frame, and the keyboard), "gone", "any" (waits for nothing). "focus/1000" waits for a
-// second and no longer. The answer is the time in milliseconds, or "never".
+// second and no longer. "whole" is the last frame before a while without any. The answer is the time in
+// milliseconds, or "never".
 
 #include <algorithm>
 #include <chrono>
@@ -41,6 +42,7 @@ using Clock = std::chrono::steady_clock;
 using std::chrono::milliseconds;
 
 constexpr milliseconds patience{20'000};
+constexpr milliseconds stillness{500};
 constexpr int smallestWindow = 100; ///< smaller ones are icons
 
 struct Free
@@ -366,6 +368,19 @@ void answerTimeTo(Screen &screen, const std::string &event, Clock::time_point st
               << std::endl; // NOLINT
 }
 
+/// The time to the last frame before the given time without any.
+void answerLastFrame(Screen &screen, Clock::time_point start, milliseconds time)
+{
+    auto lastFrame = start;
+    while (Clock::now() < lastFrame + time && Clock::now() < start + patience) {
+        screen.handleEvents(lastFrame + time);
+        if (screen.seen().frame)
+            lastFrame = Clock::now();
+        screen.forgetFrames();
+    }
+    std::cout << std::chrono::duration<double, std::milli>(lastFrame - start).count() << std::endl; // NOLINT
+}
+
 std::vector<std::string> parts(std::istream &line)
 {
     std::vector<std::string> all;
@@ -387,6 +402,8 @@ void startProgram(Screen &screen, std::istream &line)
     arguments.push_back(nullptr);
     if (event == "tray")
         screen.becomeTray();
+    // What is under the pointer may move for a while.
+    screen.movePointer(0, 0);
     screen.follow(0);
     const auto start = Clock::now();
     const pid_t pid = fork();
@@ -396,24 +413,14 @@ void startProgram(Screen &screen, std::istream &line)
         _exit(127);
     }
     screen.follow(pid);
-    answerTimeTo(screen, event, start);
+    if (event == "whole")
+        answerLastFrame(screen, start, stillness);
+    else
+        answerTimeTo(screen, event, start);
     if (event == "tray")
         screen.ceaseToBeTray();
     kill(pid, SIGTERM);
     waitpid(pid, nullptr, 0);
-}
-
-void waitForQuiet(Screen &screen, milliseconds time)
-{
-    const auto start = Clock::now();
-    auto lastFrame = start;
-    while (Clock::now() < lastFrame + time && Clock::now() < start + patience) {
-        screen.handleEvents(lastFrame + time);
-        if (screen.seen().frame)
-            lastFrame = Clock::now();
-        screen.forgetFrames();
-    }
-    std::cout << std::chrono::duration<double, std::milli>(lastFrame - start).count() << std::endl; // NOLINT
 }
 
 std::vector<std::string> keysOf(const std::string &combination)
@@ -471,7 +478,7 @@ int main()
         line >> event >> action;
         screen.follow(std::stoi(who));
         if (event == "quiet") {
-            waitForQuiet(screen, milliseconds(std::stoi(action)));
+            answerLastFrame(screen, Clock::now(), milliseconds(std::stoi(action)));
             continue;
         }
         const auto slash = event.find('/');
