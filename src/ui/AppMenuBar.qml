@@ -6,7 +6,7 @@ import QtQuick.Templates as T
 import Keyvora
 
 // The main menu. Its texts are in the language in which it was installed.
-Rectangle {
+MenuBarGround {
     id: root
 
     required property AppMenu appMenu
@@ -27,8 +27,6 @@ Rectangle {
         title.openMenu();
     }
 
-    implicitHeight: 28
-    color: Theme.sidebarGlass
     Accessible.role: Accessible.MenuBar
     onFocusItemChanged: {
         if (root.focusItem !== null && !root.isActive)
@@ -52,12 +50,6 @@ Rectangle {
         onActivated: root.Window.window.showMinimized()
     }
 
-    RoundedRectangle {
-        anchors.bottom: parent.bottom
-        width: parent.width
-        height: Theme.hairlineWidth
-        color: Theme.hairline
-    }
     // Qt 6.4 gives the linter no way to know that a menu belongs to the component around it.
     // qmllint disable unqualified
     Row {

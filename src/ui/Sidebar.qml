@@ -13,28 +13,11 @@ FocusScope {
     signal addRequested
     signal settingsRequested
 
-    implicitWidth: 230
+    implicitWidth: ground.implicitWidth
 
-    Rectangle {
+    SidebarGround {
+        id: ground
         anchors.fill: parent
-        color: Theme.sidebarGlass
-    }
-    RoundedRectangle {
-        anchors.right: parent.right
-        width: Theme.hairlineWidth
-        height: parent.height
-        color: Theme.hairline
-    }
-
-    BrandTile {
-        id: tile
-        x: 18
-        y: 18
-    }
-    Column {
-        anchors.left: tile.right
-        anchors.leftMargin: 10
-        anchors.verticalCenter: tile.verticalCenter
 
         PlainLabel {
             text: "Keyvora"
@@ -47,12 +30,11 @@ FocusScope {
             color: Theme.secondaryInk
         }
     }
-
     ListView {
         id: list
 
-        anchors.top: tile.bottom
-        anchors.topMargin: 13
+        anchors.top: parent.top
+        anchors.topMargin: ground.headHeight
         anchors.bottom: actions.top
         anchors.bottomMargin: 8
         anchors.left: parent.left
