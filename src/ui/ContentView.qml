@@ -21,9 +21,6 @@ FocusScope {
     required property KeyReader keyReader
     required property bool isFirstTime
 
-    readonly property int minimumWidth: 980
-    readonly property int minimumHeight: 650 + menuBar.implicitHeight
-
     // A sheet or another window is open.
     readonly property bool isInterrupted: sheet.item !== null || about.item !== null
 
@@ -108,8 +105,6 @@ FocusScope {
             page.forceActiveFocus();
     }
     focus: true
-    // Sheets need a window, which may come after the content.
-    onWindowChanged: window => root.presentWaitingSheets(window)
     Component.onCompleted: root.presentWaitingSheets(root.Window.window)
 
     Connections {
@@ -140,9 +135,6 @@ FocusScope {
         }
     }
 
-    Backdrop {
-        anchors.fill: parent
-    }
     AppMenuBar {
         id: menuBar
         width: parent.width
@@ -167,7 +159,7 @@ FocusScope {
         anchors.top: menuBar.bottom
         anchors.bottom: parent.bottom
         width: parent.width
-        contentWidth: Math.max(viewport.width, root.minimumWidth)
+        contentWidth: Math.max(viewport.width, Theme.leastPageWidth)
         contentHeight: viewport.height
         interactive: viewport.contentWidth > viewport.width
         boundsBehavior: Flickable.StopAtBounds

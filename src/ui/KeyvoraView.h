@@ -19,6 +19,7 @@ public:
     /// The theme is the QML singleton, which outlives the view. It is needed before the view is shown.
     explicit KeyvoraView(QQmlEngine *engine, QObject *theme = nullptr);
     void setTheme(QObject *theme) { m_theme = theme; }
+    [[nodiscard]] QObject *theme() const { return m_theme; }
 
     using Activation = std::function<bool(const QWindow &window, const QString &activationToken)>;
 

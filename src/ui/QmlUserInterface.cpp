@@ -13,9 +13,10 @@
 #include "system/ApplicationIcon.h"
 #include "system/UnusedMemory.h"
 #include "ui/CornerWindow.h"
-#include "ui/KeyvoraView.h"
+#include "ui/MainView.h"
 #include "ui/PanelPlacement.h"
 #include "ui/PanelWindow.h"
+#include "ui/QmlFile.h"
 #include "ui/WindowFrame.h"
 #include "update/UpdateChecker.h"
 
@@ -35,11 +36,6 @@ constexpr QSize initialWindowSize(960, 640);
 constexpr QSize minimumWindowSize(840, 560);
 constexpr int noticeGap = 12; ///< between the overlay and the notice below it
 
-QUrl component(const QString &name)
-{
-    return QUrl(u"qrc:/qt/qml/Keyvora/"_s + name + u".qml"_s);
-}
-
 /// The theme lives in QML, which alone can name it.
 QObject *themeOf(QQmlEngine &engine)
 {
@@ -48,13 +44,6 @@ QObject *themeOf(QQmlEngine &engine)
                       {});
     const std::unique_ptr<QObject> holder(component.create());
     return holder->property("theme").value<QObject *>();
-}
-
-/// Below which the main window is not made, but to fit on a screen.
-QSize leastSizeOf(const QQuickItem &content)
-{
-    const QSize least(content.property("minimumWidth").toInt(), content.property("minimumHeight").toInt());
-    return minimumWindowSize.expandedTo(least);
 }
 
 Settings::BackupCommands backupCommands(AppModel &model)
@@ -78,7 +67,7 @@ void setContent(QQuickView &view, const QString &name, AppModel &model, QObject 
         {u"appModel"_s, QVariant::fromValue(&model)},
         {u"controller"_s, QVariant::fromValue(&controller)},
     });
-    view.setSource(component(name));
+    view.setSource(qmlFile(name));
 }
 
 /// Screen readers hear of an item that comes into being, but not of one whose window is shown again.
@@ -100,7 +89,12 @@ QmlUserInterface::QmlUserInterface(const Context &context, std::chrono::millisec
     , m_keyReader(context.keyboardLayout)
     , m_panelController(context.toggleOverlay, context.showMainWindow, context.quit)
     , m_overlayController(context.toggleOverlay, context.showMainWindow)
-    , m_noticeController(context.model, context.showMainWindow)
+    , m_noticeController(context.model,
+                         [this] {
+                             m_context.showMainWindow();
+                             // Shows one of its cards next.
+                             m_mainWindow->content();
+                         })
     , m_trustController(context.grantTrust)
 {
     m_engine.addImportPath(u"qrc:/qt/qml"_s);
@@ -136,10 +130,8 @@ void QmlUserInterface::prepareMainWindow()
 {
     if (m_mainWindow)
         return;
-    // Read on a thread of the engine's.
-    m_comingContent =
-        std::make_unique<QQmlComponent>(&m_engine, component(u"ContentView"_s), QQmlComponent::Asynchronous);
     makeMainView();
+    m_mainWindow->prepare();
     m_mainWindow->create();
 }
 
@@ -149,14 +141,15 @@ void QmlUserInterface::showMainWindow(const QString &activationToken)
         makeMainWindow();
     // Window managers place a window that comes back by where its frame was asked to be.
     if (!m_mainWindow->isVisible())
-        m_mainWindowFrame->restore(initialWindowSize, leastSizeOf(*m_mainWindow->rootObject()));
+        m_mainWindowFrame->restore(initialWindowSize,
+                                   minimumWindowSize.expandedTo(m_mainWindow->leastSize()));
     m_mainWindow->bringToFront(activationToken, m_context.activateWindow);
     rememberFirstTime(m_context.defaults, DefaultsKeys::hasSeenOnboarding);
 }
 
 void QmlUserInterface::makeMainView()
 {
-    m_mainWindow = std::make_unique<KeyvoraView>(&m_engine);
+    m_mainWindow = std::make_unique<MainView>(&m_engine);
     m_mainWindow->setTitle(u"Keyvora"_s);
     m_mainWindow->setIcon(applicationIcon());
 }
@@ -166,7 +159,8 @@ void QmlUserInterface::makeMainWindow()
     if (!m_mainWindow)
         makeMainView();
     m_mainWindow->setTheme(theme());
-    m_mainWindow->setInitialProperties({
+    QObject::connect(m_mainWindow.get(), &MainView::contentMade, &m_engine, [this] { followContent(); });
+    m_mainWindow->load({
         {u"appModel"_s, QVariant::fromValue(&m_context.model)},
         {u"sections"_s, QVariant::fromValue(&m_sections)},
         {u"learning"_s, QVariant::fromValue(&m_learning)},
@@ -179,8 +173,6 @@ void QmlUserInterface::makeMainWindow()
         {u"keyReader"_s, QVariant::fromValue(&m_keyReader)},
         {u"isFirstTime"_s, isFirstTime(m_context.defaults, DefaultsKeys::hasSeenOnboarding)},
     });
-    m_mainWindow->setSource(component(u"ContentView"_s));
-    m_comingContent.reset();
     m_mainWindowFrame = std::make_unique<WindowFrame>(*m_mainWindow, m_context.windowFrames, "MainWindow"_L1);
     QObject::connect(m_mainWindow.get(), &QWindow::visibleChanged, &m_discardTimer, [this](bool isVisible) {
         if (isVisible)
@@ -188,20 +180,19 @@ void QmlUserInterface::makeMainWindow()
         else
             m_discardTimer.start();
     });
-    // The about window may have been open longer than a closed main window is kept.
-    QObject::connect(m_mainWindow->rootObject(), SIGNAL(isInterruptedChanged()), &m_discardTimer,
-                     SLOT(start()));
-    resumeLeftPlace();
 }
 
-void QmlUserInterface::resumeLeftPlace()
+void QmlUserInterface::followContent()
 {
+    QQuickItem *content = m_mainWindow->content();
+    // The about window may have been open longer than a closed main window is kept.
+    QObject::connect(content, SIGNAL(isInterruptedChanged()), &m_discardTimer, SLOT(start()));
     if (!m_leftPlace.isValid())
         return;
-    // By the first frame everything has its size.
+    // By its first frame everything has its size.
     QObject::connect(
-        m_mainWindow.get(), &QQuickWindow::afterAnimating, m_mainWindow->rootObject(),
-        [content = m_mainWindow->rootObject(), place = std::exchange(m_leftPlace, {})] {
+        m_mainWindow.get(), &QQuickWindow::afterAnimating, content,
+        [content, place = std::exchange(m_leftPlace, {})] {
             QMetaObject::invokeMethod(content, "resume", Q_ARG(QVariant, place));
         },
         Qt::SingleShotConnection);
@@ -210,10 +201,14 @@ void QmlUserInterface::resumeLeftPlace()
 void QmlUserInterface::discardMainWindow()
 {
     // What is begun in it waits for as long as it takes.
-    if (!m_mainWindow || m_mainWindow->isVisible() ||
-        m_mainWindow->rootObject()->property("isInterrupted").toBool())
+    if (!m_mainWindow || m_mainWindow->isVisible())
         return;
-    QMetaObject::invokeMethod(m_mainWindow->rootObject(), "place", Q_RETURN_ARG(QVariant, m_leftPlace));
+    if (m_mainWindow->hasContent()) {
+        QQuickItem *content = m_mainWindow->content();
+        if (content->property("isInterrupted").toBool())
+            return;
+        QMetaObject::invokeMethod(content, "place", Q_RETURN_ARG(QVariant, m_leftPlace));
+    }
     m_mainWindowFrame.reset();
     m_mainWindow.reset();
     m_engine.trimComponentCache();

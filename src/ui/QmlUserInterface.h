@@ -16,7 +16,6 @@
 #include "ui/ToolkitTexts.h"
 #include "ui/TrustController.h"
 
-#include <QQmlComponent>
 #include <QQmlEngine>
 #include <QTimer>
 
@@ -26,7 +25,7 @@
 namespace keyvora {
 
 class CornerWindow;
-class KeyvoraView;
+class MainView;
 class PanelWindow;
 class WindowFrame;
 
@@ -56,8 +55,8 @@ private:
     void makeMainView();
     void makeMainWindow();
     void discardMainWindow();
-    /// Scrolls the new main window to where the person was in the one before.
-    void resumeLeftPlace();
+    /// Of a new main window, which also goes to where the person was in the one before.
+    void followContent();
     void makePanel();
     void makeOverlay();
     void makeNotice();
@@ -79,8 +78,7 @@ private:
     OverlayController m_overlayController;
     NoticeController m_noticeController;
     TrustController m_trustController;
-    std::unique_ptr<QQmlComponent> m_comingContent; ///< of the main window that is prepared
-    std::unique_ptr<KeyvoraView> m_mainWindow;
+    std::unique_ptr<MainView> m_mainWindow;
     std::unique_ptr<WindowFrame> m_mainWindowFrame;
     QTimer m_discardTimer;
     QVariant m_leftPlace; ///< in the content of the main window that was discarded

@@ -61,6 +61,10 @@ QtObject {
     readonly property int mediumWeight: 540
     readonly property int strongWeight: 650
 
+    // What the main window needs below its menu.
+    readonly property int leastPageWidth: 980
+    readonly property int leastPageHeight: 650
+
     // Cards stand in columns that share the width.
     readonly property int cardHeight: 145
     readonly property int leastCardWidth: 250

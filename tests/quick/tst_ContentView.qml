@@ -396,14 +396,9 @@ KeyvoraTestCase {
         tryVerify(() => !hasText("Welcome to Keyvora"));
     }
 
-    function test_theContentTellsItsOwnMinimum(): void {
-        compare(item.minimumWidth, 980);
-        verify(item.minimumHeight >= 650);
-    }
-
     function test_theKeyboardScrollsWhatIsWiderThanTheWindow(): void {
         const viewport = findChild(item, "viewport");
-        const cut = item.minimumWidth - 640;
+        const cut = Theme.leastPageWidth - 640;
         verify(!viewport.interactive);
         item.width = 640;
         compare(viewport.contentX, 0);

@@ -1,0 +1,17 @@
+// SPDX-FileCopyrightText: 2026 The Keyvora developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QString>
+#include <QUrl>
+
+namespace keyvora {
+
+/// Where a component of our QML module lies.
+inline QUrl qmlFile(const QString &name)
+{
+    return QUrl(u"qrc:/qt/qml/Keyvora/"_qs + name + u".qml"_qs);
+}
+
+} // namespace keyvora
