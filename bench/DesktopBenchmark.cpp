@@ -20,6 +20,7 @@
 #include <QEventLoop>
 #include <QProcess>
 #include <QQuickItem>
+#include <QQuickItem>
 #include <QQuickView>
 #include <QQuickWindow>
 #include <QTimer>
@@ -151,7 +152,10 @@ bool measureImport(FakeApplicationInstance &instance)
     if (window == nullptr || !waitFor(window, &QQuickWindow::frameSwapped))
         return false;
     settle(1000);
-    auto *model = window->rootObject()->property("appModel").value<AppModel *>();
+    const auto *content = window->rootObject()->property("content").value<QQuickItem *>();
+    auto *model = content == nullptr ? nullptr : content->property("appModel").value<AppModel *>();
+    if (model == nullptr)
+        return false;
     const qsizetype before = model->customShortcuts().size();
     Slices slices;
     QElapsedTimer time;
