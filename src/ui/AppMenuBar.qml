@@ -18,6 +18,7 @@ MenuBarGround {
     readonly property Item focusItem: root.Window.activeFocusItem
 
     signal aboutRequested
+    signal minimizeRequested
 
     // Opens one menu and closes the others.
     function present(title: AppMenuTitle): void {
@@ -47,7 +48,7 @@ MenuBarGround {
     }
     Shortcut {
         sequence: "Ctrl+M"
-        onActivated: root.Window.window.showMinimized()
+        onActivated: root.minimizeRequested()
     }
 
     // Qt 6.4 gives the linter no way to know that a menu belongs to the component around it.
@@ -141,7 +142,7 @@ MenuBarGround {
                 AppMenuItem {
                     label: root.czech ? "Minimalizovat" : "Minimize"
                     keysText: "Ctrl+M"
-                    onTriggered: root.Window.window.showMinimized()
+                    onTriggered: root.minimizeRequested()
                 }
             }
         }

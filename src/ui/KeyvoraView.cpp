@@ -43,10 +43,16 @@ void KeyvoraView::bringToFront(const QString &activationToken, const Activation 
         qputenv("XDG_ACTIVATION_TOKEN", activationToken.toUtf8());
     if (windowStates().testFlag(Qt::WindowMinimized))
         setWindowStates(windowStates() & ~Qt::WindowMinimized);
-    show();
+    // Not `show`, after which no window is maximised any more.
+    setVisible(true);
     raise();
     if (!activate(*this, activationToken))
         requestActivate();
+}
+
+void KeyvoraView::minimize()
+{
+    setWindowStates(windowStates() | Qt::WindowMinimized);
 }
 
 void KeyvoraView::hideEvent(QHideEvent *event)

@@ -23,9 +23,13 @@ public:
 
     using Activation = std::function<bool(const QWindow &window, const QString &activationToken)>;
 
-    /// Shows the window above the others and asks for the focus: by `activate`, or itself where that is
-    /// false.
+    /// Shows the window above the others, as large as it was, and asks for the focus: by `activate`, or
+    /// itself where that is false.
     void bringToFront(const QString &activationToken, const Activation &activate);
+
+public slots:
+    /// A maximised window comes back maximised.
+    void minimize();
 
 protected:
     bool event(QEvent *event) override;

@@ -25,9 +25,20 @@ constexpr auto saveDelay = 400ms;
 /// How much of a window's top must be on a screen so that a person can take hold of it.
 constexpr QSize graspable(120, 24);
 
-std::optional<QRect> parsedFrame(const QString &text)
+constexpr QLatin1StringView maximizedMark("maximized");
+
+struct StoredFrame
 {
-    const QStringList parts = text.split(u' ');
+    QRect frame; ///< position of the frame, size of what is in it; of a maximised window those before
+    bool isMaximized = false;
+};
+
+std::optional<StoredFrame> parsedFrame(const QString &text)
+{
+    QStringList parts = text.split(u' ');
+    const bool isMaximized = parts.size() == 5 && parts.last() == maximizedMark;
+    if (isMaximized)
+        parts.removeLast();
     if (parts.size() != 4)
         return std::nullopt;
     std::array<int, 4> numbers{};
@@ -38,7 +49,7 @@ std::optional<QRect> parsedFrame(const QString &text)
         if (!isNumber || std::abs(numbers[static_cast<size_t>(i)]) > farAway)
             return std::nullopt;
     }
-    return QRect(numbers[0], numbers[1], numbers[2], numbers[3]);
+    return StoredFrame{QRect(numbers[0], numbers[1], numbers[2], numbers[3]), isMaximized};
 }
 
 /// The screen on which a window with that frame can be taken hold of.
@@ -93,7 +104,7 @@ WindowFrame::~WindowFrame()
 void WindowFrame::restore(QSize initialSize, QSize minimumSize)
 {
     const auto stored = parsedFrame(m_store.text(m_name).value_or(QString()));
-    const QScreen *storedScreen = stored ? screenToGraspOn(*stored) : nullptr;
+    const QScreen *storedScreen = stored ? screenToGraspOn(stored->frame) : nullptr;
     const QScreen *screen = storedScreen != nullptr ? storedScreen : QGuiApplication::primaryScreen();
     if (screen == nullptr)
         return;
@@ -102,7 +113,7 @@ void WindowFrame::restore(QSize initialSize, QSize minimumSize)
     const QSize most = available.size().shrunkBy(decoration);
 
     const QSize minimum = minimumSize.boundedTo(most);
-    const QSize wanted = (stored ? stored->size() : initialSize).expandedTo(minimum);
+    const QSize wanted = (stored ? stored->frame.size() : initialSize).expandedTo(minimum);
     const QSize size = wanted.boundedTo(most);
     QRect middle(QPoint(), size);
     middle.moveCenter(available.center());
@@ -110,7 +121,7 @@ void WindowFrame::restore(QSize initialSize, QSize minimumSize)
     QPoint position(std::min(middle.x(), available.x() + available.width() - whole.width()),
                     std::min(middle.y(), available.y() + available.height() - whole.height()));
     if (storedScreen != nullptr) {
-        position = stored->topLeft();
+        position = stored->frame.topLeft();
         // A window that was cut is shown as a whole; others may be beyond an edge, where they were put.
         if (size.width() < wanted.width())
             position.setX(available.left());
@@ -121,6 +132,8 @@ void WindowFrame::restore(QSize initialSize, QSize minimumSize)
     // In this order: resizing takes the position for that of the content.
     m_window.resize(size);
     m_window.setFramePosition(position);
+    if (stored && stored->isMaximized)
+        m_window.setWindowStates(Qt::WindowMaximized);
 }
 
 void WindowFrame::savePending()
@@ -132,13 +145,22 @@ void WindowFrame::savePending()
 void WindowFrame::save()
 {
     m_saveTimer.stop();
-    // A maximised or full-screen window comes back at its ordinary place.
-    if (m_window.windowStates() != Qt::WindowNoState)
-        return;
-    const QPoint position = m_window.framePosition();
-    m_store.setText(
-        m_name,
-        u"%1 %2 %3 %4"_s.arg(position.x()).arg(position.y()).arg(m_window.width()).arg(m_window.height()));
+    const Qt::WindowStates states = m_window.windowStates();
+    if (states == Qt::WindowNoState) {
+        store(QRect(m_window.framePosition(), m_window.size()), false);
+    } else if (states == Qt::WindowMaximized) {
+        // Where it goes once it is not maximised any more.
+        const auto stored = parsedFrame(m_store.text(m_name).value_or(QString()));
+        store(stored ? stored->frame : QRect(m_window.framePosition(), m_window.minimumSize()), true);
+    }
+}
+
+void WindowFrame::store(const QRect &frame, bool isMaximized)
+{
+    QString text = u"%1 %2 %3 %4"_s.arg(frame.x()).arg(frame.y()).arg(frame.width()).arg(frame.height());
+    if (isMaximized)
+        text += u' ' + maximizedMark;
+    m_store.setText(m_name, text);
 }
 
 } // namespace keyvora

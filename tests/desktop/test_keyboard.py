@@ -211,6 +211,45 @@ class WindowTest(KeyboardTestCase):
         self.assertEqual(0, self.start_again())
         self.see_window_at(geometry)
 
+    def maximize(self):
+        """As a person does: a double click on the title."""
+        window = self.window(self.program)
+        content = windows.frame_free_geometry(window)
+        pointer.double_click_at(content.x + content.width // 2, content.y - 8)
+        self.see_maximized()
+
+    def see_maximized(self):
+        window = self.window(self.program, WINDOW_TITLE)
+        self.wait_for(lambda: windows.is_maximized(window), "the window is maximized")
+
+    def test_a_maximized_window_stays_maximized(self):
+        self.launch_elsewhere()
+        self.maximize()
+        self.assertEqual(0, self.start_again())
+        self.wait_until_active(self.program)
+        window = self.window(self.program)
+        self.assertTrue(windows.is_maximized(window))
+        self.keys("ctrl+m")
+        self.wait_for(lambda: windows.is_minimized(window), "the window is minimized")
+        self.assertEqual(0, self.start_again())
+        self.wait_until_active(self.program)
+        self.assertTrue(windows.is_maximized(window))
+
+    def test_a_window_that_was_maximized_is_that_again_after_a_new_start(self):
+        geometry = self.launch_elsewhere()
+        stored = self.directory / "state" / "keyvora" / "windows.json"
+        self.wait_for(lambda: stored.exists() and " 1000 700" in stored.read_text(), "its place is remembered")
+        self.maximize()
+        self.close()
+        self.assertEqual(0, self.program.terminate())
+        self.launch_resting()
+        self.assertEqual(0, self.start_again())
+        self.see_maximized()
+        window = self.window(self.program)
+        content = windows.frame_free_geometry(window)
+        pointer.double_click_at(content.x + content.width // 2, content.y - 8)
+        self.wait_for(lambda: windows.frame_free_geometry(window) == geometry, f"the window is at {geometry}")
+
     def test_the_window_cannot_be_made_too_small(self):
         self.launch_for_keyboard()
         window = self.window(self.program)
@@ -218,8 +257,7 @@ class WindowTest(KeyboardTestCase):
         self.wait_for(lambda: windows.frame_free_geometry(window).width == 1100, "the window is larger")
         windows.resize(window, 300, 200)
         self.wait_for(lambda: windows.frame_free_geometry(window).width < 1100, "the window is smaller")
-        self.assertGreaterEqual(windows.frame_free_geometry(window).width, 840)
-        self.assertGreaterEqual(windows.frame_free_geometry(window).height, 560)
+        self.assertEqual((980, 678), windows.frame_free_geometry(window)[2:])
 
     def test_control_q_ends_the_program(self):
         self.launch_for_keyboard()

@@ -21,6 +21,10 @@ def click_at(x, y, button=LEFT):
     subprocess.run(["xdotool", "mousemove", str(x), str(y), "click", str(button)], check=True)
 
 
+def double_click_at(x, y):
+    subprocess.run(["xdotool", "mousemove", str(x), str(y), "click", "--repeat", "2", str(LEFT)], check=True)
+
+
 @contextlib.contextmanager
 def held_at(x, y, button=LEFT):
     """Presses the button there and releases it, in the same place, when the context ends."""

@@ -49,6 +49,11 @@ def is_minimized(window):
     return "Iconic" in _property("-id", str(window), name="WM_STATE")
 
 
+def is_maximized(window):
+    states = _property("-id", str(window), name="_NET_WM_STATE")
+    return all(f"_NET_WM_STATE_MAXIMIZED_{direction}" in states for direction in ("HORZ", "VERT"))
+
+
 def frame_free_geometry(window):
     """Where its content is on the screen, without the frame around it."""
     facts = _output("xwininfo", "-id", str(window))
