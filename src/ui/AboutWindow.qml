@@ -8,6 +8,8 @@ import Keyvora
 Window {
     id: root
 
+    signal quitRequested
+
     width: 280
     height: 190
     minimumWidth: width
@@ -46,5 +48,9 @@ Window {
     Shortcut {
         sequences: ["Escape", "Ctrl+W"]
         onActivated: root.close()
+    }
+    Shortcut {
+        sequence: "Ctrl+Q"
+        onActivated: root.quitRequested()
     }
 }

@@ -144,6 +144,9 @@ class CommandsTest(MenuTestCase):
 
         self.wait_for(about_window, "there is a window about the program")
         self.see(Role.LABEL, re.compile(r"^Version \d+\.\d+"))
+        self.wait_for(lambda: windows.active() in about_window(), "it has the keyboard")
+        self.keys("ctrl+q")
+        self.assertEqual(0, self.program.wait())
 
     def test_the_keyboard_alone_chooses_a_command(self):
         self.launch()
