@@ -73,10 +73,10 @@ ApplicationNames::ApplicationNames(QStringList dataDirs, QStringList languages)
 {
 }
 
-QString ApplicationNames::find(const WindowIdentity &identity) const
+QHash<WindowIdentity, QString> ApplicationNames::find(const QList<WindowIdentity> &identities) const
 {
-    int bestRank = noMatch;
-    QString bestName;
+    QHash<WindowIdentity, int> bestRanks;
+    QHash<WindowIdentity, QString> names;
     QSet<QString> seenIds;
     int remaining = maximumEntries;
     for (const QString &dataDir : m_dataDirs) {
@@ -89,18 +89,20 @@ QString ApplicationNames::find(const WindowIdentity &identity) const
             const auto entry = DesktopEntry::read(path);
             if (!entry || entry->flag(u"Hidden"_s, false))
                 continue;
-            const int entryRank = rank(*entry, id, identity);
-            if (entryRank >= bestRank)
-                continue;
-            const QString name =
-                displayableForeignText(entry->localizedValue(u"Name"_s, m_languages), maximumNameLength);
-            if (name.isEmpty())
-                continue;
-            bestRank = entryRank;
-            bestName = name;
+            for (const WindowIdentity &identity : identities) {
+                const int entryRank = rank(*entry, id, identity);
+                if (entryRank >= bestRanks.value(identity, noMatch))
+                    continue;
+                const QString name =
+                    displayableForeignText(entry->localizedValue(u"Name"_s, m_languages), maximumNameLength);
+                if (name.isEmpty())
+                    continue;
+                bestRanks.insert(identity, entryRank);
+                names.insert(identity, name);
+            }
         }
     }
-    return bestName;
+    return names;
 }
 
 QString ApplicationNames::fallback(const WindowIdentity &identity)

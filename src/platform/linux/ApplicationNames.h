@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <QHash>
+#include <QList>
 #include <QString>
 #include <QStringList>
 
@@ -29,9 +31,10 @@ public:
     /// `dataDirs` holds the folders that have an "applications" folder, the user's own first.
     ApplicationNames(QStringList dataDirs, QStringList languages);
 
-    /// The localized name of the entry that fits best; empty when none fits. StartupWMClass decides before
-    /// the application id, the entry's file name, and the name of the program that it starts.
-    [[nodiscard]] QString find(const WindowIdentity &identity) const;
+    /// For each the localized name of the entry that fits best; none where no entry fits. StartupWMClass
+    /// decides before the application id, the entry's file name, and the name of the program that it starts.
+    /// Each entry is read once, for however many windows.
+    [[nodiscard]] QHash<WindowIdentity, QString> find(const QList<WindowIdentity> &identities) const;
 
     /// What to call an application without an entry: its window class.
     [[nodiscard]] static QString fallback(const WindowIdentity &identity);

@@ -33,10 +33,16 @@ public:
     [[nodiscard]] QString find(const WindowIdentity &identity,
                                const QStringList &languages = {u"en-US"_s}) const
     {
+        return findAll({identity}, languages).value(identity);
+    }
+
+    [[nodiscard]] QHash<WindowIdentity, QString> findAll(const QList<WindowIdentity> &identities,
+                                                         const QStringList &languages = {u"en-US"_s}) const
+    {
         return ApplicationNames({m_folder.filePath(u"own"_s), m_folder.filePath(u"missing"_s),
                                  m_folder.filePath(u"system"_s)},
                                 languages)
-            .find(identity);
+            .find(identities);
     }
 
 private:
@@ -121,7 +127,22 @@ TEST(ApplicationNames, FindNothingForAWindowThatTellsNothing)
     dirs.addSystem(u"b.desktop"_s, "Name=Viewer\nStartupWMClass=\nExec=\n");
     EXPECT_EQ(dirs.find({}), QString());
     EXPECT_EQ(dirs.find(withClass(u"Unknown"_s)), QString());
-    EXPECT_EQ(ApplicationNames({}, {}).find(editorWindow), QString());
+    EXPECT_TRUE(ApplicationNames({}, {}).find({editorWindow}).isEmpty());
+}
+
+TEST(ApplicationNames, FindsThoseOfManyWindowsAtOnce)
+{
+    DataDirs dirs;
+    dirs.addSystem(u"a.desktop"_s, "Name=Editor\nStartupWMClass=Editor\n");
+    dirs.addSystem(u"b.desktop"_s, "Name=Viewer\nStartupWMClass=Viewer\n");
+    dirs.addSystem(u"viewer.desktop"_s, "Name=Another viewer\n");
+    const QHash<WindowIdentity, QString> names =
+        dirs.findAll({withClass(u"Viewer"_s), withClass(u"Unknown"_s), withClass(u"Editor"_s)});
+    const QHash<WindowIdentity, QString> expected = {
+        {withClass(u"Viewer"_s), u"Viewer"_s},
+        {withClass(u"Editor"_s), u"Editor"_s},
+    };
+    EXPECT_EQ(names, expected);
 }
 
 TEST(ApplicationNames, AreInTheUsersLanguage)
