@@ -36,11 +36,13 @@ public:
     [[nodiscard]] virtual std::optional<RunningApplication> frontmostApplication() const = 0;
 
     /// The ordinary applications that run now, those with a window in the task list, in the desktop's order,
-    /// each process once. Our own included. The future finishes soon, perhaps from another thread.
+    /// each process once, at most 256. Our own included. The future finishes soon, perhaps from another
+    /// thread.
     [[nodiscard]] virtual QFuture<QList<RunningApplication>> runningApplications() = 0;
 
 signals:
-    /// Another application came to the front, or the name of the one in front became known. Our own included.
+    /// Another application came to the front, our own included; or the name of the one in front, or of the
+    /// one before ours, became known.
     void applicationActivated(const keyvora::RunningApplication &application);
 };
 

@@ -149,6 +149,27 @@ TEST_F(X11ConnectionTest, TellsOfEvents)
     EXPECT_EQ(changed, (QList<xcb_atom_t>{connection().atom("ONE"), connection().atom("TWO")}));
 }
 
+TEST_F(X11ConnectionTest, LetsOthersHaveTheirTurnWhileEventsCome)
+{
+    constexpr qsizetype many = 5000;
+    const QList<xcb_atom_t> &changed = changedProperties();
+    for (qsizetype i = 0; i < many; ++i)
+        desktop().setRootProperty("TEXT", XCB_ATOM_STRING, "some bytes");
+    std::optional<qsizetype> before;
+    qsizetype batches = 0;
+    QObject::connect(
+        &connection(), &X11Connection::eventReceived, &connection(),
+        [&] {
+            QMetaObject::invokeMethod(
+                &connection(), [&] { before = changed.size(); }, Qt::QueuedConnection);
+        },
+        Qt::SingleShotConnection);
+    QObject::connect(&connection(), &X11Connection::eventsDispatched, &connection(), [&] { ++batches; });
+    EXPECT_TRUE(becomesTrue([&] { return changed.size() == many; }));
+    EXPECT_LT(before.value_or(many), many / 2);
+    EXPECT_LT(batches, many / 2);
+}
+
 TEST_F(X11ConnectionTest, AddsToTheEventsThatItWants)
 {
     const QList<xcb_atom_t> &changed = changedProperties();

@@ -318,6 +318,19 @@ TEST_F(X11WorkspaceTest, DropsANameThatComesTooLate)
     EXPECT_EQ(workspace.frontmostApplication(), (RunningApplication{u"Last"_s, 9999}));
 }
 
+TEST_F(X11WorkspaceTest, TellsANameThatComesWhenOurOwnWindowIsInFrontAlready)
+{
+    const auto ourPid = static_cast<qint32>(QCoreApplication::applicationPid());
+    addManyEntries();
+    addEntry(u"editor.desktop"_s, "Name[cs]=Textový editor\nStartupWMClass=Editor\n");
+    const Workspace &workspace = makeWorkspace();
+    announce({makeWindow("Editor", 1)});
+    // We are likely to be there before the editor's name is found.
+    announce({makeWindow("Ours", static_cast<quint32>(ourPid))});
+    EXPECT_TRUE(isTold({u"Textový editor"_s, 1}));
+    EXPECT_EQ(workspace.frontmostApplication(), (RunningApplication{u"Ours"_s, ourPid}));
+}
+
 TEST_F(X11WorkspaceTest, RemembersNames)
 {
     addEntry(u"editor.desktop"_s, "Name[cs]=Textový editor\n");

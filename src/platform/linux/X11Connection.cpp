@@ -12,6 +12,13 @@
 
 namespace keyvora {
 
+namespace {
+
+/// A client that sends more than that is not to keep the program from everything else.
+constexpr int maximumEventsAtOnce = 256;
+
+} // namespace
+
 std::unique_ptr<X11Connection> X11Connection::open()
 {
     int screenNumber = 0;
@@ -147,13 +154,17 @@ void X11Connection::readAvailable()
         return;
     }
     // Reading replies queues events and the other way round, so both go on until neither finds anything.
-    dispatchEvents(&xcb_poll_for_event);
+    int remaining = maximumEventsAtOnce;
     bool hasFound = true;
+    dispatchEvents(&xcb_poll_for_event, remaining);
     while (hasFound) {
+        emit eventsDispatched();
         hasFound = dispatchReplies();
-        hasFound = dispatchEvents(&xcb_poll_for_queued_event) || hasFound;
+        hasFound = dispatchEvents(&xcb_poll_for_queued_event, remaining) || hasFound;
     }
     m_willRead = false;
+    if (remaining == 0)
+        readLater();
 }
 
 bool X11Connection::dispatchReplies()
@@ -184,11 +195,13 @@ bool X11Connection::isBroken() const
     return xcb_connection_has_error(m_connection) != 0;
 }
 
-bool X11Connection::dispatchEvents(xcb_generic_event_t *(*nextEvent)(xcb_connection_t *))
+bool X11Connection::dispatchEvents(xcb_generic_event_t *(*nextEvent)(xcb_connection_t *), int &remaining)
 {
     bool hasFound = false;
-    while (xcb_generic_event_t *data = nextEvent(m_connection)) {
-        const XcbOwned<xcb_generic_event_t> event(data);
+    for (; remaining > 0; --remaining) {
+        const XcbOwned<xcb_generic_event_t> event(nextEvent(m_connection));
+        if (!event)
+            break;
         hasFound = true;
         emit eventReceived(event.get());
     }

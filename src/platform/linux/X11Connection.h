@@ -73,6 +73,8 @@ public:
 signals:
     /// One event as it came; valid during the call only.
     void eventReceived(const xcb_generic_event_t *event);
+    /// All events of this turn were told: what they changed can be asked for once, however many there were.
+    void eventsDispatched();
 
 private:
     struct PendingReply
@@ -88,7 +90,7 @@ private:
     void readAvailable();
     // Both tell whether there was anything.
     bool dispatchReplies();
-    bool dispatchEvents(xcb_generic_event_t *(*nextEvent)(xcb_connection_t *));
+    bool dispatchEvents(xcb_generic_event_t *(*nextEvent)(xcb_connection_t *), int &remaining);
 
     xcb_connection_t *m_connection;
     int m_screenNumber;

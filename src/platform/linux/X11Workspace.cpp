@@ -18,10 +18,16 @@ namespace keyvora {
 
 namespace {
 
+qint32 ownPid()
+{
+    return static_cast<qint32>(QCoreApplication::applicationPid());
+}
+
 constexpr uint32_t maximumClassBytes = 1024;
 constexpr uint32_t maximumAtomBytes = 64;
 constexpr uint32_t maximumWindows = 4096;
 constexpr qsizetype maximumKnownNames = 512;
+constexpr qsizetype maximumApplications = 256;
 
 /// Windows, atoms and cardinals alike; what is left over at the end is none.
 QList<quint32> numbers(const QByteArray &property)
@@ -42,6 +48,10 @@ X11Workspace::X11Workspace(X11Connection &connection, ApplicationNames names, QO
 {
     m_nameSearch.setMaxThreadCount(1);
     connect(&m_connection, &X11Connection::eventReceived, this, &X11Workspace::handleEvent);
+    connect(&m_connection, &X11Connection::eventsDispatched, this, [this] {
+        if (m_isActiveWindowStale)
+            readActiveWindow();
+    });
     m_connection.selectRootEvents(XCB_EVENT_MASK_PROPERTY_CHANGE);
     readActiveWindow();
     m_connection.finishPendingReplies();
@@ -59,7 +69,7 @@ void X11Workspace::handleEvent(const xcb_generic_event_t *event)
         return;
     const auto *change = reinterpret_cast<const xcb_property_notify_event_t *>(event);
     if (change->window == m_connection.root() && change->atom == m_connection.atom("_NET_ACTIVE_WINDOW"))
-        readActiveWindow();
+        m_isActiveWindowStale = true;
 }
 
 void X11Workspace::readWindow(xcb_window_t window, const FactsHandler &handler)
@@ -100,6 +110,7 @@ void X11Workspace::readWindow(xcb_window_t window, const FactsHandler &handler)
 
 void X11Workspace::readActiveWindow()
 {
+    m_isActiveWindowStale = false;
     m_connection.readProperty(m_connection.root(), "_NET_ACTIVE_WINDOW", sizeof(xcb_window_t),
                               [self = QPointer(this)](const QByteArray &value) {
                                   // Some window managers write two values; the first is the window.
@@ -127,8 +138,14 @@ void X11Workspace::activeWindowRead(quint64 reading, const WindowFacts &facts)
         return;
     if (facts.isPartOfDesktop) {
         // Other applications stay in front of a panel or the desktop; we do not, who watch others work.
-        if (m_frontmost && m_frontmost->pid == static_cast<qint32>(QCoreApplication::applicationPid()))
+        if (m_frontmost && m_frontmost->pid == ownPid())
             m_frontmost.reset();
+        return;
+    }
+    // What has no name yet is what the person came from, and is still to be told.
+    if (m_isNaming && facts.pid == ownPid()) {
+        m_frontmost = RunningApplication{ApplicationNames::fallback(facts.identity), facts.pid};
+        emit applicationActivated(*m_frontmost);
         return;
     }
     ++m_activation;
@@ -143,7 +160,7 @@ void X11Workspace::activeWindowRead(quint64 reading, const WindowFacts &facts)
         return;
     }
     m_frontmost = RunningApplication{ApplicationNames::fallback(facts.identity), facts.pid};
-    m_unnamed = {m_activation, facts.identity};
+    m_unnamed = {m_activation, facts.identity, facts.pid};
     if (!m_isNaming)
         nameFrontmost();
 }
@@ -151,16 +168,18 @@ void X11Workspace::activeWindowRead(quint64 reading, const WindowFacts &facts)
 void X11Workspace::nameFrontmost()
 {
     m_isNaming = true;
-    findNames({m_unnamed.second}, [this, unnamed = m_unnamed](const Names &names) {
+    findNames({m_unnamed.identity}, [this, unnamed = m_unnamed](const Names &names) {
         m_isNaming = false;
-        if (m_unnamed.first != m_activation || !m_frontmost)
+        if (m_unnamed.activation != m_activation || !m_frontmost)
             return;
         if (m_unnamed != unnamed) {
             nameFrontmost();
             return;
         }
-        m_frontmost->name = names.value(unnamed.second);
-        emit applicationActivated(*m_frontmost);
+        const RunningApplication application{names.value(unnamed.identity), unnamed.pid};
+        if (m_frontmost->pid == application.pid)
+            m_frontmost = application;
+        emit applicationActivated(application);
     });
 }
 
@@ -194,7 +213,7 @@ void X11Workspace::windowRead(const WindowFacts &facts, const std::shared_ptr<Su
 {
     const bool isKnown = std::any_of(survey->windows.cbegin(), survey->windows.cend(),
                                      [&](const WindowFacts &other) { return other.pid == facts.pid; });
-    if (facts.isInTaskList && facts.pid && !isKnown)
+    if (facts.isInTaskList && facts.pid && !isKnown && survey->windows.size() < maximumApplications)
         survey->windows.append(facts);
     if (--survey->unread == 0)
         windowsRead(survey);
@@ -235,10 +254,10 @@ void X11Workspace::findNames(const QList<WindowIdentity> &identities, const Name
 {
     // The destructor waits for the search, so that `this` and the names outlive it.
     startInBackground(m_nameSearch, [this, identities, handler] {
-        Names names;
+        Names names = m_names.find(identities);
         for (const WindowIdentity &identity : identities) {
-            const QString name = m_names.find(identity);
-            names.insert(identity, name.isEmpty() ? ApplicationNames::fallback(identity) : name);
+            if (!names.contains(identity))
+                names.insert(identity, ApplicationNames::fallback(identity));
         }
         QMetaObject::invokeMethod(
             this,

@@ -48,6 +48,16 @@ private:
     using Names = QHash<WindowIdentity, QString>;
     using NamesHandler = std::function<void(const Names &names)>;
 
+    /// The activation of an application whose name was not known.
+    struct Unnamed
+    {
+        quint64 activation = 0;
+        WindowIdentity identity;
+        std::optional<qint32> pid;
+
+        friend bool operator==(const Unnamed &, const Unnamed &) = default;
+    };
+
     /// The windows of the task list, of which each process is to be told once.
     struct Survey
     {
@@ -62,8 +72,8 @@ private:
     void readActiveWindow();
     void activeWindowAnnounced(xcb_window_t window);
     void activeWindowRead(quint64 reading, const WindowFacts &facts);
-    /// Finds the name of what is in front. One at a time: windows can change faster than names are found, and
-    /// the last one counts.
+    /// Finds the name of what is in front, or was before our own window. One at a time: windows can change
+    /// faster than names are found, and the last one counts.
     void nameFrontmost();
     void windowsAnnounced(const QByteArray &windows, const std::shared_ptr<Survey> &survey);
     void windowRead(const WindowFacts &facts, const std::shared_ptr<Survey> &survey);
@@ -77,10 +87,11 @@ private:
     ApplicationNames m_names;
     Names m_knownNames;
     std::optional<RunningApplication> m_frontmost;
+    bool m_isActiveWindowStale =
+        false;                ///< another one was announced, and is asked for once all events are seen
     quint64 m_reading = 0;    ///< counts announcements, so that a late answer to an earlier one is dropped
     quint64 m_activation = 0; ///< counts what came to the front, so that a name found too late is dropped
-    /// The last activation of an application whose name was not known, and which one.
-    std::pair<quint64, WindowIdentity> m_unnamed;
+    Unnamed m_unnamed;        ///< the last
     bool m_isNaming = false;
     QThreadPool m_nameSearch;
 };
