@@ -26,7 +26,7 @@ constexpr const char *noObject = "/org/a11y/atspi/null";
 constexpr uint32_t screenCoordinates = 0;
 
 constexpr qsizetype maximumCacheEntries = 50'000;
-constexpr size_t maximumTextBytes = 4096;
+constexpr size_t maximumTextBytes = 1024;
 constexpr size_t maximumPathBytes = 512;
 
 QString limitedText(const char *text)

@@ -5,6 +5,8 @@
 
 #include "platform/linux/atspi/StopSignal.h"
 
+#include <QList>
+
 #include <algorithm>
 #include <array>
 #include <cerrno>
@@ -41,6 +43,11 @@ std::unique_ptr<BusPipeline> BusPipeline::toSession(const StopSignal &stop, BusP
 std::unique_ptr<BusPipeline> BusPipeline::toAddress(const QByteArray &address, const StopSignal &stop,
                                                     BusPatience patience)
 {
+    // Other kinds of address start programs or look hosts up.
+    const QList<QByteArray> ways = address.split(';');
+    if (!std::ranges::all_of(ways,
+                             [](const QByteArray &way) { return way.isEmpty() || way.startsWith("unix:"); }))
+        return nullptr;
     sd_bus *bus = nullptr;
     if (sd_bus_new(&bus) < 0)
         return nullptr;

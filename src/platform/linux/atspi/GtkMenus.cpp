@@ -29,7 +29,7 @@ constexpr uint32_t maximumWindows = 4096;
 constexpr uint32_t maximumNameBytes = 512;
 constexpr qsizetype maximumItems = 20'000;
 constexpr qsizetype maximumGroups = 256;
-constexpr qsizetype maximumTextLength = 4096;
+constexpr qsizetype maximumTextLength = 1024;
 
 // --- The windows -------------------------------------------------------------------------------------------
 
