@@ -109,7 +109,8 @@ QString rawValue(Shortcut::Category category)
 std::optional<Shortcut::Category> categoryFromRawValue(const QString &rawValue)
 {
     const auto &names = categoryNames();
-    const auto found = std::ranges::find(names, rawValue, &CategoryName::czech);
+    const auto found = std::ranges::find_if(
+        names, [&](const CategoryName &name) { return canonicallyEqual(name.czech, rawValue); });
     if (found == names.end())
         return std::nullopt;
     return found->category;
