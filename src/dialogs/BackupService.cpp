@@ -14,8 +14,8 @@
 #include <QFileDialog>
 #include <QPointer>
 
+#include <memory>
 #include <utility>
-#include <vector>
 
 namespace keyvora {
 
@@ -33,37 +33,34 @@ QFileDialog *makeDialog(const QString &title, const AppModel &model)
     return dialog;
 }
 
-} // namespace
-
-/// Those who wait for an outcome. Whatever ends without one, a dialog that is closed above all, lets go of
-/// this, which then tells them that it came to nothing.
-class BackupService::Waiting
+/// Who waits for an outcome. Whatever ends without one, a dialog that is closed above all, lets go of this,
+/// which then tells that it came to nothing.
+class Waiting
 {
 public:
-    Waiting(AppModel &model, Done done)
+    Waiting(AppModel &model, BackupService::Done done)
         : m_model(&model)
+        , m_done(std::move(done))
     {
-        add(std::move(done));
     }
     ~Waiting() { tell(false); }
     Q_DISABLE_COPY_MOVE(Waiting)
 
     [[nodiscard]] AppModel *model() const { return m_model; }
-    [[nodiscard]] bool isTold() const { return m_waiting.empty(); }
-    void add(Done done) { m_waiting.push_back(std::move(done)); }
 
     void tell(bool outcome)
     {
-        for (const Done &done : std::exchange(m_waiting, {})) {
-            if (m_model && done)
-                done(outcome);
-        }
+        const BackupService::Done done = std::exchange(m_done, {});
+        if (m_model && done)
+            done(outcome);
     }
 
 private:
     QPointer<AppModel> m_model;
-    std::vector<Done> m_waiting;
+    BackupService::Done m_done;
 };
+
+} // namespace
 
 void BackupService::exportBackup(AppModel &model, QWindow *window, Done done) const
 {
@@ -95,17 +92,11 @@ void BackupService::exportBackup(AppModel &model, QWindow *window, Done done) co
 
 void BackupService::importFile(AppModel &model, QWindow *window, Done done) const
 {
-    if (const auto underWay = m_import.lock();
-        underWay && !underWay->isTold() && underWay->model() == &model) {
-        underWay->add(std::move(done));
-        return;
-    }
     QFileDialog *dialog =
         makeDialog(Localization::shared().text(u"Vybrat zálohu"_s, u"Choose Backup"_s), model);
     dialog->setAcceptMode(QFileDialog::AcceptOpen);
     dialog->setFileMode(QFileDialog::ExistingFile);
     const auto waiting = std::make_shared<Waiting>(model, std::move(done));
-    m_import = waiting;
     QObject::connect(dialog, &QFileDialog::fileSelected, dialog, [waiting](const QString &path) {
         if (waiting->model() == nullptr)
             return;

@@ -4,7 +4,6 @@
 #pragma once
 
 #include <functional>
-#include <memory>
 
 class QWindow;
 
@@ -28,13 +27,7 @@ public:
     void exportBackup(AppModel &model, QWindow *window, Done done) const;
 
     /// Merges a backup into the model, as a whole or not at all. True when the file was read and merged.
-    /// While one import is under way another one joins it, and shares its outcome.
     void importFile(AppModel &model, QWindow *window, Done done) const;
-
-private:
-    class Waiting;
-
-    mutable std::weak_ptr<Waiting> m_import; ///< the one that is under way
 };
 
 } // namespace keyvora

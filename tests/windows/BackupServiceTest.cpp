@@ -330,27 +330,6 @@ TEST_F(BackupServiceTest, ReadsALargeFileWhileTheEventLoopTurns)
     EXPECT_TRUE(model().favorites().contains(u"redo"_s));
 }
 
-TEST_F(BackupServiceTest, JoinsAnImportThatIsUnderWay)
-{
-    write(u"backup.json"_s, backupOf({}));
-    importFile();
-    importFile();
-    EXPECT_EQ(dialogs().size(), 1);
-    choose(path(u"backup.json"_s));
-    importFile();
-    EXPECT_EQ(dialogs().size(), 0);
-    ASSERT_TRUE(becomesTrue([this] { return outcomes().size() >= 3; }));
-    settle();
-    EXPECT_EQ(outcomes(), (QList<bool>{true, true, true}));
-    EXPECT_EQ(idsOf(model().customShortcuts()), QStringList{u"theirs"_s});
-    // It is over, so that the next one is one of its own.
-    importFile();
-    ASSERT_NE(dialog(), nullptr);
-    dialog()->reject();
-    ASSERT_TRUE(becomesTrue([this] { return outcomes().size() >= 4; }));
-    EXPECT_FALSE(outcomes().last());
-}
-
 TEST_F(BackupServiceTest, EndsWhenTheWindowIsHidden)
 {
     importFile();
