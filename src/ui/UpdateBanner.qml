@@ -21,7 +21,6 @@ FocusScope {
     implicitHeight: Math.max(texts.height, buttons.height) + 20
     Accessible.role: Accessible.AlertMessage
     Accessible.name: title.text
-    Accessible.description: line.text
 
     RoundedRectangle {
         anchors.fill: parent
@@ -65,6 +64,8 @@ FocusScope {
             color: Theme.secondaryInk
             wrapMode: Text.Wrap
             maximumLineCount: 3
+            Accessible.role: Accessible.StaticText
+            Accessible.name: text
         }
     }
     Row {

@@ -50,7 +50,7 @@ class UpdateTestCase(KeyvoraTestCase):
     def see_banner(self, title, line=None):
         banner = self.see(Role.ALERT, title)
         if line is not None:
-            self.assertRegex(banner.description, line)
+            self.see(Role.LABEL, re.compile(line))
         return banner
 
     def see_no_banner(self):

@@ -63,13 +63,26 @@ KeyvoraTestCase {
         verify(button("Download") !== null);
         compare(strip.Accessible.role, Accessible.AlertMessage);
         compare(strip.Accessible.name, "New version 1.10 available");
-        compare(strip.Accessible.description, "You have version 1.0. Download the new one and drag it into Applications.");
+        verify(named("You have version 1.0. Download the new one and drag it into Applications.") !== null);
         Localized.czech = true;
         verify(hasText("Dostupná nová verze 1.10"));
         verify(hasText("Ty máš verzi 1.0. Stáhni novou a přetáhni do Applications."));
         verify(button("Přeskočit") !== null);
         verify(button("Stáhnout") !== null);
         compare(strip.Accessible.name, "Dostupná nová verze 1.10");
+    }
+
+    function test_itLooksAsAnAnnouncementDoes(): void {
+        announce("1.10", page, "");
+        const symbol = findAll(banner(), candidate => candidate instanceof Symbol)[0];
+        compare([symbol.name, symbol.size], ["arrow_circle_down-fill", 16]);
+        const [title, line] = labels();
+        compare([title.size, title.font.weight], [13, Theme.strongWeight]);
+        compare(line.size, 11.5);
+        compare(title.mapToItem(symbol, 0, 0).x - symbol.width, 14);
+        verify(button("Skip") instanceof PlainButton);
+        compare(button("Skip").size, 11.5);
+        verify(button("Download") instanceof ProminentButton);
     }
 
     function test_theContentBelowMovesDownAndBack(): void {
