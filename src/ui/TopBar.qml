@@ -18,6 +18,11 @@ FocusScope {
 
     signal leftDownwards
 
+    readonly property real leastNameWidth: 72
+    readonly property real leastSearchWidth: 112
+    // What the title and the import leave for the name of the application and the search.
+    readonly property real room: root.width - pageTitle.implicitWidth - pageTitle.anchors.rightMargin - importMenu.width - 2 * controls.spacing - 23
+
     implicitHeight: 32
 
     PlainLabel {
@@ -49,16 +54,14 @@ FocusScope {
             Accessible.name: root.appModel.activeApp
             Accessible.description: Localized.czech ? "Aktivní aplikace" : "Active app"
 
-            // What the title leaves.
-            readonly property real room: root.width - pageTitle.implicitWidth - pageTitle.anchors.rightMargin - importMenu.width - search.width - 2 * controls.spacing - 23
-
             Symbol {
                 anchors.verticalCenter: parent.verticalCenter
                 name: "web_asset"
                 color: Theme.secondaryInk
             }
             PlainLabel {
-                width: Math.min(implicitWidth, 150, Math.max(72, activeApp.room))
+                id: appName
+                width: Math.min(implicitWidth, 150, Math.max(root.leastNameWidth, root.room - search.width))
                 height: parent.height
                 text: root.appModel.activeApp
                 size: 12.5
@@ -71,6 +74,8 @@ FocusScope {
         }
         SearchField {
             id: search
+            // Gives way to the title, and to an ordinary name.
+            width: Math.max(root.leastSearchWidth, Math.min(implicitWidth, root.room - Math.min(appName.implicitWidth, root.leastNameWidth)))
             focus: true
             appModel: root.appModel
             Keys.onDownPressed: root.leftDownwards()

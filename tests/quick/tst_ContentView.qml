@@ -222,6 +222,35 @@ KeyvoraTestCase {
         verify(!name.truncated);
     }
 
+    function test_everyTitleHasItsSizeBesideAnOrdinaryName_data(): var {
+        return [
+            {
+                "tag": "English",
+                "czech": false
+            },
+            {
+                "tag": "Czech",
+                "czech": true
+            }
+        ];
+    }
+
+    function test_everyTitleHasItsSizeBesideAnOrdinaryName(data: var): void {
+        Localized.czech = data.czech;
+        Fixture.activate("Mousepad");
+        const bar = findAll(item, candidate => candidate instanceof TopBar)[0];
+        const title = findAll(bar, candidate => candidate instanceof PlainLabel && candidate.size === 24)[0];
+        const search = findAll(bar, candidate => candidate instanceof SearchField)[0];
+        verify(item.width === 980);
+        for (let row = 0; row < Fixture.sections.rowCount(); ++row) {
+            Fixture.sections.select(row);
+            waitForRendering(title);
+            compare(title.fontInfo.pixelSize, 24, title.text);
+            verify(!title.truncated, title.text);
+            verify(!findAll(search, candidate => candidate instanceof PlainLabel)[0].truncated);
+        }
+    }
+
     function test_theTopBarFitsAtTheSmallestWidth_data(): var {
         return [
             {
