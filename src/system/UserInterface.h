@@ -51,12 +51,13 @@ public:
 
     virtual ~UserInterface() = default;
 
-    /// Begins to make the main window, on other threads as far as that goes, so that there is less left to do
-    /// when it is shown.
+    /// Begins to make the main window, on other threads as far as that goes, so that it comes up sooner when
+    /// it is shown.
     virtual void prepareMainWindow() = 0;
 
-    /// Shows the main window in front, with the focus; one that was closed a moment ago as it was left. The
-    /// token is what the desktop gave for that, or empty.
+    /// Shows the main window in front, with the focus; one that was closed a moment ago as it was left. What
+    /// it shows may follow a moment later, and finds what it has to know in the model and the controllers.
+    /// The token is what the desktop gave for that, or empty.
     virtual void showMainWindow(const QString &activationToken) = 0;
 
     /// Opens the panel beside a point of the screen (in screen pixels), or closes it when it is open. A null
@@ -75,7 +76,7 @@ public:
     virtual void askForTrust() = 0;
 };
 
-/// The one symbol of the library: makes the user interface.
+/// What is looked up in the library: makes the user interface.
 using CreateUserInterface = UserInterface *(*)(const UserInterface::Context &context);
 inline constexpr const char *createUserInterfaceSymbol = "keyvoraCreateUserInterface";
 

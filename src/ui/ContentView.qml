@@ -24,18 +24,12 @@ FocusScope {
     // A sheet or another window is open.
     readonly property bool isInterrupted: sheet.item !== null || about.item !== null
 
+    signal minimizeRequested
+
     readonly property bool showsLibrary: root.sections.page === SidebarModel.Page.Library
 
-    property bool hasGreeted: false
     // The settings gave way to the question, and come back after it.
     property bool returnsToSettings: false
-
-    function greet(window: Window): void {
-        if (!root.isFirstTime || root.hasGreeted || window === null)
-            return;
-        root.hasGreeted = true;
-        sheet.present("OnboardingView");
-    }
 
     function presentSettings(): void {
         sheet.setSource("SettingsView.qml", {
@@ -45,8 +39,8 @@ FocusScope {
     }
 
     // Asks as soon as no other sheet is open. The settings, from where the person asked for it, give way.
-    function offerTrust(window: Window): void {
-        if (!root.trust.isAsked || window === null)
+    function offerTrust(): void {
+        if (!root.trust.isAsked)
             return;
         if (sheet.item instanceof SettingsView) {
             root.returnsToSettings = true;
@@ -60,32 +54,29 @@ FocusScope {
 
     function followSheet(): void {
         sheet.source = "";
-        root.offerTrust(root.Window.window);
+        root.offerTrust();
         if (sheet.item !== null || !root.returnsToSettings)
             return;
         root.returnsToSettings = false;
         root.presentSettings();
     }
 
-    function presentWaitingSheets(window: Window): void {
-        root.greet(window);
-        root.offerTrust(window);
-    }
-
     // Where the person is in what is longer than the window, for the content that takes this one's place.
     function place(): var {
         return {
+            "row": root.sections.currentRow,
             "libraryY": library.contentY,
             "libraryRow": library.currentRow,
-            "section": page.section,
             "pageY": page.item === null ? 0 : (page.item as ScrollPage).contentY
         };
     }
 
-    // Goes there, once everything has its size.
+    // Goes there, once everything has its size, unless the person went somewhere else meanwhile.
     function resume(place: var): void {
+        if (root.sections.currentRow !== place.row)
+            return;
         library.resume(place.libraryY, place.libraryRow);
-        if (page.item !== null && page.section === place.section)
+        if (page.item !== null)
             (page.item as ScrollPage).scrollTo(place.pageY);
     }
 
@@ -105,13 +96,17 @@ FocusScope {
             page.forceActiveFocus();
     }
     focus: true
-    Component.onCompleted: root.presentWaitingSheets(root.Window.window)
+    Component.onCompleted: {
+        if (root.isFirstTime)
+            sheet.present("OnboardingView");
+        root.offerTrust();
+    }
 
     Connections {
         target: root.trust
 
         function onIsAskedChanged(): void {
-            root.offerTrust(root.Window.window);
+            root.offerTrust();
         }
     }
     Connections {
@@ -140,6 +135,7 @@ FocusScope {
         width: parent.width
         appMenu: root.appMenu
         onAboutRequested: about.present()
+        onMinimizeRequested: root.minimizeRequested()
     }
     // Screens may be narrower than the content, which scrolls sideways then; upwards and downwards its parts do.
     Flickable {
@@ -326,6 +322,9 @@ FocusScope {
     Connections {
         target: about.item
 
+        function onQuitRequested(): void {
+            root.appMenu.quitRequested();
+        }
         function onClosing(): void {
             about.source = "";
         }

@@ -35,19 +35,18 @@ void findFonts(const QObject &theme)
 MainView::MainView(QQmlEngine *engine)
     : KeyvoraView(engine)
 {
-    connect(this, &QQuickWindow::frameSwapped, this, &MainView::readContent,
-            static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
+    m_frames = connect(this, &QQuickWindow::frameSwapped, this, &MainView::readContent, Qt::QueuedConnection);
 }
 
 void MainView::prepare()
 {
-    m_reading = readInBackground(engine(), u"WindowShell"_s);
+    m_reading = readInBackground(engine(), u"WindowGround"_s);
 }
 
 void MainView::load(const QVariantMap &contentProperties)
 {
     m_contentProperties = contentProperties;
-    setSource(qmlFile(u"WindowShell"_s));
+    setSource(qmlFile(u"WindowGround"_s));
     m_reading.reset();
 }
 
@@ -56,15 +55,14 @@ QSize MainView::leastSize() const
     return {rootObject()->property("minimumWidth").toInt(), rootObject()->property("minimumHeight").toInt()};
 }
 
-QQuickItem *MainView::content()
-{
-    makeContent();
-    return madeContent();
-}
-
-QQuickItem *MainView::madeContent() const
+QQuickItem *MainView::content() const
 {
     return rootObject() == nullptr ? nullptr : rootObject()->property("content").value<QQuickItem *>();
+}
+
+bool MainView::hasUnseenSheet() const
+{
+    return !m_isContentSeen && content() != nullptr && content()->property("isInterrupted").toBool();
 }
 
 bool MainView::event(QEvent *event)
@@ -75,6 +73,9 @@ bool MainView::event(QEvent *event)
     case QEvent::MouseButtonPress:
     case QEvent::TouchBegin:
         makeContent();
+        // Nobody answers a question before it is there to be read.
+        if (hasUnseenSheet())
+            return true;
         break;
     default:
         break;
@@ -84,25 +85,38 @@ bool MainView::event(QEvent *event)
 
 void MainView::readContent()
 {
-    if (hasContent())
+    // A window that is closed again at once has its content made when it comes back.
+    if (m_reading || content() != nullptr || !isVisible())
         return;
     m_reading = readInBackground(engine(), u"ContentView"_s);
     findFonts(*theme());
     if (m_reading->isLoading())
-        connect(m_reading.get(), &QQmlComponent::statusChanged, this, &MainView::makeContent,
+        connect(m_reading.get(), &QQmlComponent::statusChanged, this, &MainView::makeReadContent,
                 Qt::QueuedConnection);
     else
+        makeReadContent();
+}
+
+void MainView::makeReadContent()
+{
+    if (isVisible())
         makeContent();
+    m_reading.reset();
 }
 
 void MainView::makeContent()
 {
-    if (hasContent())
+    if (content() != nullptr)
         return;
     QMetaObject::invokeMethod(rootObject(), "present", Q_ARG(QVariant, m_contentProperties));
+    if (content() == nullptr)
+        return;
+    disconnect(m_frames);
     m_contentProperties.clear();
-    m_reading.reset();
-    emit contentMade();
+    connect(
+        this, &QQuickWindow::frameSwapped, this, [this] { m_isContentSeen = true; },
+        Qt::SingleShotConnection);
+    emit contentMade(content());
 }
 
 } // namespace keyvora

@@ -13,7 +13,8 @@
 namespace keyvora {
 
 /// The main window. It comes up with its ground alone; what it shows is read meanwhile, and made after the
-/// first frame, so that a person sees at once that the program answers.
+/// first frame, so that a person sees at once that the program answers. It needs a theme and `load` before it
+/// is shown.
 class MainView : public KeyvoraView
 {
     Q_OBJECT
@@ -27,28 +28,33 @@ public:
     /// Makes what the window comes up with, and remembers what its content is to be given.
     void load(const QVariantMap &contentProperties);
 
-    /// Below which the content would be cut.
+    /// Below which the content would be cut. Once loaded.
     [[nodiscard]] QSize leastSize() const;
 
-    /// The content, which is made now unless it is there.
-    QQuickItem *content();
+    /// The content; null as long as there is none.
+    [[nodiscard]] QQuickItem *content() const;
 
-    [[nodiscard]] bool hasContent() const { return madeContent() != nullptr; }
+    /// Makes the content at once, unless there is one. Once loaded.
+    void makeContent();
 
 signals:
-    void contentMade();
+    /// There is content, which no frame has shown yet. May come while an event is being delivered.
+    void contentMade(QQuickItem *content);
 
 protected:
     /// The first key or click is for the content.
     bool event(QEvent *event) override;
 
 private:
-    [[nodiscard]] QQuickItem *madeContent() const;
+    /// Whether a sheet lies over the content that nobody has seen yet.
+    [[nodiscard]] bool hasUnseenSheet() const;
     void readContent();
-    void makeContent();
+    void makeReadContent();
 
     QVariantMap m_contentProperties;
     std::unique_ptr<QQmlComponent> m_reading; ///< of what is needed next
+    QMetaObject::Connection m_frames;
+    bool m_isContentSeen = false;
 };
 
 } // namespace keyvora

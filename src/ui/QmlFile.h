@@ -11,7 +11,8 @@ namespace keyvora {
 /// Where a component of our QML module lies.
 inline QUrl qmlFile(const QString &name)
 {
-    return QUrl(u"qrc:/qt/qml/Keyvora/"_qs + name + u".qml"_qs);
+    using namespace Qt::Literals::StringLiterals;
+    return QUrl(u"qrc:/qt/qml/Keyvora/"_s + name + u".qml"_s);
 }
 
 } // namespace keyvora

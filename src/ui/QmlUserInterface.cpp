@@ -92,8 +92,8 @@ QmlUserInterface::QmlUserInterface(const Context &context, std::chrono::millisec
     , m_noticeController(context.model,
                          [this] {
                              m_context.showMainWindow();
-                             // Shows one of its cards next.
-                             m_mainWindow->content();
+                             // The signal that tells it which card to show comes next, and once.
+                             m_mainWindow->makeContent();
                          })
     , m_trustController(context.grantTrust)
 {
@@ -144,7 +144,6 @@ void QmlUserInterface::showMainWindow(const QString &activationToken)
         m_mainWindowFrame->restore(initialWindowSize,
                                    minimumWindowSize.expandedTo(m_mainWindow->leastSize()));
     m_mainWindow->bringToFront(activationToken, m_context.activateWindow);
-    rememberFirstTime(m_context.defaults, DefaultsKeys::hasSeenOnboarding);
 }
 
 void QmlUserInterface::makeMainView()
@@ -159,7 +158,8 @@ void QmlUserInterface::makeMainWindow()
     if (!m_mainWindow)
         makeMainView();
     m_mainWindow->setTheme(theme());
-    QObject::connect(m_mainWindow.get(), &MainView::contentMade, &m_engine, [this] { followContent(); });
+    QObject::connect(m_mainWindow.get(), &MainView::contentMade, &m_engine,
+                     [this](QQuickItem *content) { followContent(content); });
     m_mainWindow->load({
         {u"appModel"_s, QVariant::fromValue(&m_context.model)},
         {u"sections"_s, QVariant::fromValue(&m_sections)},
@@ -182,32 +182,35 @@ void QmlUserInterface::makeMainWindow()
     });
 }
 
-void QmlUserInterface::followContent()
+void QmlUserInterface::followContent(QQuickItem *content)
 {
-    QQuickItem *content = m_mainWindow->content();
+    // It has greeted the person, the first time.
+    rememberFirstTime(m_context.defaults, DefaultsKeys::hasSeenOnboarding);
     // The about window may have been open longer than a closed main window is kept.
     QObject::connect(content, SIGNAL(isInterruptedChanged()), &m_discardTimer, SLOT(start()));
+    QObject::connect(content, SIGNAL(minimizeRequested()), m_mainWindow.get(), SLOT(minimize()));
     if (!m_leftPlace.isValid())
         return;
     // By its first frame everything has its size.
     QObject::connect(
         m_mainWindow.get(), &QQuickWindow::afterAnimating, content,
-        [content, place = std::exchange(m_leftPlace, {})] {
-            QMetaObject::invokeMethod(content, "resume", Q_ARG(QVariant, place));
+        [this, content] {
+            QMetaObject::invokeMethod(content, "resume", Q_ARG(QVariant, std::exchange(m_leftPlace, {})));
         },
         Qt::SingleShotConnection);
 }
 
 void QmlUserInterface::discardMainWindow()
 {
-    // What is begun in it waits for as long as it takes.
     if (!m_mainWindow || m_mainWindow->isVisible())
         return;
-    if (m_mainWindow->hasContent()) {
-        QQuickItem *content = m_mainWindow->content();
+    if (QQuickItem *content = m_mainWindow->content()) {
+        // What is begun in it waits for as long as it takes.
         if (content->property("isInterrupted").toBool())
             return;
-        QMetaObject::invokeMethod(content, "place", Q_RETURN_ARG(QVariant, m_leftPlace));
+        // One that was never drawn has not gone there itself.
+        if (!m_leftPlace.isValid())
+            QMetaObject::invokeMethod(content, "place", Q_RETURN_ARG(QVariant, m_leftPlace));
     }
     m_mainWindowFrame.reset();
     m_mainWindow.reset();

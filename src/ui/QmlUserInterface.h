@@ -22,6 +22,8 @@
 #include <chrono>
 #include <memory>
 
+class QQuickItem;
+
 namespace keyvora {
 
 class CornerWindow;
@@ -51,12 +53,12 @@ public:
 private:
     /// Made at the first call.
     QObject *theme();
-    /// The window before it has its content.
+    /// The bare window, without QML.
     void makeMainView();
     void makeMainWindow();
     void discardMainWindow();
     /// Of a new main window, which also goes to where the person was in the one before.
-    void followContent();
+    void followContent(QQuickItem *content);
     void makePanel();
     void makeOverlay();
     void makeNotice();

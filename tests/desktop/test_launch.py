@@ -44,8 +44,7 @@ class FirstLaunchTest(KeyvoraTestCase):
     def test_the_window_is_in_the_middle_of_the_screen(self):
         self.launch()
         frame = windows.frame_free_geometry(self.window(self.program))
-        self.assertGreaterEqual(frame.width, 960)
-        self.assertGreaterEqual(frame.height, 640)
+        self.assertEqual((980, 678), frame[2:])
         self.assertAlmostEqual(1280 / 2, frame.x + frame.width / 2, delta=2)
         self.assertAlmostEqual(800 / 2, frame.y + frame.height / 2, delta=30)
 

@@ -52,9 +52,7 @@ class KeyvoraTestCase(DesktopTestCase):
 
     def setUp(self):
         super().setUp()
-        binary = os.environ.get("KEYVORA_BINARY")
-        if not binary:
-            self.skipTest("needs the program's path in KEYVORA_BINARY")
+        binary = os.environ["KEYVORA_BINARY"]
         self.binary = binary
         self.program = None
         self._allowed_output = []
@@ -75,11 +73,12 @@ class KeyvoraTestCase(DesktopTestCase):
         return process
 
     def launch(self, *starter, **environment):
-        """Starts the program, which must open its window; it is `self.program` from then on."""
+        """Starts the program, which must open its window and show something there; it is `self.program` from then on."""
         self.program = self.start_program(*starter, **environment)
         self.window(self.program, WINDOW_TITLE)
         self.wait_until_active(self.program)
-        self.see(Role.FRAME, WINDOW_TITLE)
+        frame = self.see(Role.FRAME, WINDOW_TITLE)
+        self.wait_for(lambda: any(child.is_showing for child in frame.children), "the window shows something")
         return self.program
 
     def launch_resting(self, **environment):

@@ -4,7 +4,7 @@
 import QtQuick
 import Keyvora
 
-// The main window as it first appears; what it shows takes longer to make than a window to come up, and is given to it then.
+// The main window as it first appears. What it shows takes longer to make than a window to come up, and is given to it then.
 FocusScope {
     id: root
 
@@ -15,6 +15,8 @@ FocusScope {
     function present(properties: var): void {
         place.setSource("ContentView.qml", properties);
     }
+
+    focus: true
 
     Backdrop {
         anchors.fill: parent

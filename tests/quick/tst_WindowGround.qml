@@ -51,7 +51,6 @@ KeyvoraTestCase {
     }
 
     function test_theContentGetsTheKeyboard(): void {
-        item.forceActiveFocus();
         present();
         verify(item.content.activeFocus);
         keyClick(Qt.Key_End);
@@ -67,7 +66,7 @@ KeyvoraTestCase {
     }
 
     subject: Component {
-        WindowShell {
+        WindowGround {
             width: root.width
             height: root.height
         }
