@@ -42,11 +42,16 @@ PressButton {
         horizontalAlignment: Text.AlignHCenter
     }
     background: RoundedRectangle {
+        // Half of what it is for others.
+        function dimmed(tint: color): color {
+            return Qt.alpha(tint, tint.a / 2);
+        }
+
         radius: 8
-        color: root.selected ? Theme.accent : Theme.capFill
+        color: root.selected ? Theme.accent : root.available ? Theme.capFill : dimmed(Theme.capFill)
         // With much contrast all outlines are strong, and the colour alone would not tell which key does something.
         borderWidth: root.isInPlay ? Theme.hairlineWidth : 1
-        borderColor: root.isInPlay ? Theme.accent : Theme.hairline
+        borderColor: root.isInPlay ? Theme.accent : Theme.highContrast ? Theme.hairline : dimmed(Theme.hairline)
 
         RoundedRectangle {
             anchors.fill: parent

@@ -15,7 +15,7 @@ Column {
 
     Symbol {
         anchors.horizontalCenter: parent.horizontalCenter
-        name: "keyboard_off"
+        name: "keyboard"
         size: 44
         color: Theme.secondaryInk
     }

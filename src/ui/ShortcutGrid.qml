@@ -44,7 +44,7 @@ GridView {
     // The spacing right of the last column and below the last row is part of their cells.
     leftMargin: root.padding
     rightMargin: root.padding - Theme.cardSpacing
-    topMargin: 4
+    topMargin: 8
     bottomMargin: root.padding - Theme.cardSpacing
     cellWidth: Math.floor((root.width - 2 * root.padding + Theme.cardSpacing) / root.columns)
     cellHeight: Theme.cardHeight + Theme.cardSpacing

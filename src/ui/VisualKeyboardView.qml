@@ -16,6 +16,7 @@ ScrollPage {
     spacing: 12
 
     Paragraph {
+        Accessible.role: Accessible.Heading
         text: Localized.czech ? "Klikni na klávesu a objev všechny zkratky, které ji používají." : "Click a key to discover every shortcut that uses it."
     }
     ModifierFilterBar {

@@ -71,6 +71,8 @@ KeyvoraTestCase {
     function test_aMarkedKeyLooksDifferent(): void {
         Fixture.appModel.toggleModifierToken("⌘");
         verify(!Qt.colorEqual(key("S").ink, key("Fn").ink));
+        verify(key("S").background.color.a > key("Fn").background.color.a);
+        verify(key("S").background.borderColor.a > key("Fn").background.borderColor.a);
         key("S").clicked();
         verify(!Qt.colorEqual(key("S").ink, key("A").ink));
         verify(Qt.colorEqual(key("S").background.color, Theme.accent));
