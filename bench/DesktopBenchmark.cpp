@@ -20,7 +20,6 @@
 #include <QEventLoop>
 #include <QProcess>
 #include <QQuickItem>
-#include <QQuickItem>
 #include <QQuickView>
 #include <QQuickWindow>
 #include <QTimer>

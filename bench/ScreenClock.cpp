@@ -5,16 +5,15 @@
 // to what that program then has on the screen. Keys and clicks go in as those of a real keyboard and mouse
 // do; a frame counts once the X server has drawn it. Reads one command a line and answers each with a line:
 //
-//     start tray|frame|whole PROGRAM…        starts a program, and ends it again
+//     start tray|frame|whole PROGRAM         starts a program, and ends it again
 //     PID EVENT tap|down|up KEY[+KEY…]       keys, such as Control_L+Alt_L+space
 //     PID EVENT click|move X Y
 //     PID EVENT wait                         answers "ready" first, for what happens in another way
 //     PID quiet MILLISECONDS                 waits until the program has drawn nothing for that long
 //
 // The events of a program's window: "frame", "list" (a frame of its lower half), "keyboard" (it has the
-// keyboard), "focus" (a frame, and the keyboard), "gone", "any" (waits for nothing). "focus/1000" waits for a
-// second and no longer. "whole" is the last frame before a while without any. The answer is the time in
-// milliseconds, or "never".
+// keyboard), "focus" (a frame, and the keyboard), "whole" (the last frame before a while without any),
+// "gone", "any" (waits for nothing). The answer is the time in milliseconds, or "never".
 
 #include <algorithm>
 #include <chrono>
@@ -355,51 +354,45 @@ bool hasCome(const Seen &seen, const std::string &event)
     fail("no event " + event);
 }
 
-void answerTimeTo(Screen &screen, const std::string &event, Clock::time_point start,
-                  milliseconds limit = patience)
+void answer(Clock::duration time)
 {
-    while (!hasCome(screen.seen(), event)) {
-        if (!screen.handleEvents(start + limit)) {
+    std::cout << std::chrono::duration<double, std::milli>(time).count() << std::endl; // NOLINT
+}
+
+/// When the last frame before the given time without any came; `since`, when none came.
+Clock::time_point lastFrame(Screen &screen, Clock::time_point since, milliseconds time)
+{
+    const auto end = since + patience;
+    auto last = since;
+    while (Clock::now() < std::min(last + time, end)) {
+        screen.handleEvents(last + time);
+        if (screen.seen().frame)
+            last = Clock::now();
+        screen.forgetFrames();
+    }
+    return last;
+}
+
+void answerTimeTo(Screen &screen, const std::string &event, Clock::time_point start)
+{
+    const bool isWhole = event == "whole";
+    while (!hasCome(screen.seen(), isWhole ? "frame" : event)) {
+        if (!screen.handleEvents(start + patience)) {
             std::cout << "never" << std::endl; // NOLINT
             return;
         }
     }
-    std::cout << std::chrono::duration<double, std::milli>(Clock::now() - start).count()
-              << std::endl; // NOLINT
-}
-
-/// The time to the last frame before the given time without any.
-void answerLastFrame(Screen &screen, Clock::time_point start, milliseconds time)
-{
-    auto lastFrame = start;
-    while (Clock::now() < lastFrame + time && Clock::now() < start + patience) {
-        screen.handleEvents(lastFrame + time);
-        if (screen.seen().frame)
-            lastFrame = Clock::now();
-        screen.forgetFrames();
-    }
-    std::cout << std::chrono::duration<double, std::milli>(lastFrame - start).count() << std::endl; // NOLINT
-}
-
-std::vector<std::string> parts(std::istream &line)
-{
-    std::vector<std::string> all;
-    for (std::string part; line >> part;)
-        all.push_back(part);
-    return all;
+    const auto now = Clock::now();
+    answer((isWhole ? lastFrame(screen, now, stillness) : now) - start);
 }
 
 /// From the moment before the process exists.
 void startProgram(Screen &screen, std::istream &line)
 {
     std::string event;
-    line >> event;
-    std::vector<std::string> command = parts(line);
-    std::vector<char *> arguments;
-    arguments.reserve(command.size() + 1);
-    for (std::string &argument : command)
-        arguments.push_back(argument.data());
-    arguments.push_back(nullptr);
+    std::string program;
+    line >> event >> std::ws;
+    std::getline(line, program);
     if (event == "tray")
         screen.becomeTray();
     // What is under the pointer may move for a while.
@@ -409,14 +402,11 @@ void startProgram(Screen &screen, std::istream &line)
     const pid_t pid = fork();
     if (pid == 0) {
         prctl(PR_SET_PDEATHSIG, SIGKILL);
-        execvp(arguments[0], arguments.data());
+        execl(program.c_str(), program.c_str(), nullptr);
         _exit(127);
     }
     screen.follow(pid);
-    if (event == "whole")
-        answerLastFrame(screen, start, stillness);
-    else
-        answerTimeTo(screen, event, start);
+    answerTimeTo(screen, event, start);
     if (event == "tray")
         screen.ceaseToBeTray();
     kill(pid, SIGTERM);
@@ -478,15 +468,13 @@ int main()
         line >> event >> action;
         screen.follow(std::stoi(who));
         if (event == "quiet") {
-            answerLastFrame(screen, Clock::now(), milliseconds(std::stoi(action)));
+            const auto start = Clock::now();
+            answer(lastFrame(screen, start, milliseconds(std::stoi(action))) - start);
             continue;
         }
-        const auto slash = event.find('/');
-        const milliseconds limit =
-            slash == std::string::npos ? patience : milliseconds(std::stoi(event.substr(slash + 1)));
         const auto start = Clock::now();
         act(screen, action, line);
-        answerTimeTo(screen, event.substr(0, slash), start, limit);
+        answerTimeTo(screen, event, start);
     }
     return 0;
 }
