@@ -40,6 +40,14 @@ KeyvoraTestCase {
             verify(hasText(text), text);
     }
 
+    function test_fiveThingsAreWorthKnowing(): void {
+        const things = [["search", "Search the whole library", "Hundreds of shortcuts by category, favorites, and modifier filters.", "Prohledej celou knihovnu", "Stovky zkratek podle kategorií, oblíbené a filtr podle modifikátoru."], ["keyboard", "⌃⌥Space from anywhere", "Opens the full library no matter what app you're in.", "⌃⌥Mezerník odkudkoli", "Otevře celou knihovnu, ať jsi v jakékoli aplikaci."], ["touch_app", "Hold ⌃⌥ for a quick peek", "A short hold shows tips for the active app, then disappears.", "Podrž ⌃⌥ pro bleskový přehled", "Krátké podržení ukáže tipy pro právě aktivní aplikaci a zase zmizí."], ["psychology", "Practice and learn", "The app remembers what trips you up and drills it more.", "Procvičuj a uč se", "Appka si pamatuje, co ti nejde, a víc to procvičuje."], ["add_box", "Make it yours", "Add your own shortcuts or import them from other apps' menus.", "Přizpůsob si to", "Přidej vlastní zkratky nebo je naimportuj z menu jiných aplikací."]];
+        open();
+        compare(rows().map(row => [row.symbol, row.title, row.detail]), things.map(thing => thing.slice(0, 3)));
+        Localized.czech = true;
+        compare(rows().map(row => [row.symbol, row.title, row.detail]), things.map(thing => [thing[0], thing[3], thing[4]]));
+    }
+
     function test_textsAreWhole_data(): list<var> {
         return [
             {

@@ -83,8 +83,8 @@ KeyvoraTestCase {
         Localized.czech = data.czech;
         for (const text of data.texts)
             verify(hasText(text), text);
-        verify(hasText("Čeština"));
-        verify(hasText("English"));
+        verify(hasText("🇨🇿 Čeština"));
+        verify(hasText("🇬🇧 English"));
         scrollDown();
         verify(hasText(Fixture.settings.versionLabel));
     }

@@ -23,6 +23,11 @@ KeyvoraTestCase {
             verify(hasText(heading), heading);
     }
 
+    function test_rowsHaveTheirSymbols(): void {
+        const symbols = findAll(item, candidate => candidate instanceof SidebarRow).sort((a, b) => a.mapToItem(item, 0, 0).y - b.mapToItem(item, 0, 0).y).map(row => row.symbol);
+        compare(symbols, ["grid_view", "star-fill", "keyboard", "touch_app", "medical_services-fill", "sunny-fill", "psychology", "wand_stars", "text_select_start", "select_window", "folder", "photo_camera", "public", "service_toolbox-fill", "add_circle", "settings"]);
+    }
+
     function test_clickingARowSelectsIt(): void {
         mouseClick(named("Browser"));
         compare(Fixture.sections.pageTitle, "Browser");

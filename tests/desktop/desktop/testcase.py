@@ -17,7 +17,7 @@ class DesktopTestCase(unittest.TestCase):
 
     def setUp(self):
         if "VIRTUAL_DESKTOP" not in os.environ:
-            self.skipTest("needs a virtual desktop: scripts/virtual-desktop")
+            self.fail("needs a virtual desktop: tests/desktop/run")
         self._processes = []
         # One place per test for everything that is stored.
         self.directory = pathlib.Path(tempfile.mkdtemp(prefix="test-", dir=os.environ["HOME"]))
