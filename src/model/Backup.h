@@ -24,7 +24,7 @@ struct Backup
     friend bool operator==(const Backup &, const Backup &) = default;
 };
 
-/// The bounds of a backup. Half of that is what the menus of others may fill, so that a backup can also hold
+/// The bounds of a backup. Imports may fill half of them, so that a backup can also hold
 /// what the user adds; all of it stays well below what the defaults store may hold.
 namespace BackupLimits {
 
@@ -65,13 +65,12 @@ private:
 /// UTF-8 can say, become U+FFFD. Empty when the backup is beyond the bounds.
 QByteArray encodeBackup(const Backup &backup);
 
-// Nothing when a bound is passed, when the bytes are not one JSON object in UTF-8 (a byte order mark may
-// precede it), when a list is missing or no list, or when any one shortcut or favourite cannot be read.
-// Unknown fields are ignored. Of fields that are repeated the last one counts.
-//
-// Memory grows with what is kept alone, not with what is skipped: less than 100 MiB, whatever comes. Any
-// thread.
-
+/// Reads a backup. Nothing when a bound is passed, when the bytes are not one JSON object in UTF-8 (a byte
+/// order mark may precede it), when a list is missing or no list, or when any one shortcut or favourite
+/// cannot be read. Unknown fields are ignored. Of fields that are repeated the last one counts.
+///
+/// Memory grows with what is kept alone, not with what is skipped: less than 100 MiB, whatever comes. Any
+/// thread.
 std::optional<Backup> decodeBackup(const QByteArray &json);
 
 /// Reads an open device piece by piece to its end, which it must have; nothing when reading fails, too.

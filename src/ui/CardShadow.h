@@ -7,7 +7,7 @@
 
 namespace keyvora {
 
-/// A soft shadow around the opaque rounded rectangle whose place the item has, which covers its middle;
+/// A soft shadow around an opaque rounded rectangle of the item's size, which has to cover the middle;
 /// lengths in units of the item. Drawn by the software renderer alone, which has no shadows of its own.
 class CardShadow : public QQuickItem
 {

@@ -18,7 +18,7 @@ constexpr size_t levels = 256;
 class GlowFall
 {
 public:
-    /// Of this many parts of a level of opacity.
+    /// How many parts a level of opacity has.
     static constexpr quint32 one = 1U << 16U;
 
     /// The opacity in the middle is from 0 to 1.

@@ -26,7 +26,7 @@ std::vector<Stretch> stretches(int length, int pictureLength, int border)
     if (length == pictureLength)
         return {{0, 0, length, false}};
     std::vector<Stretch> all;
-    // Nothing is taken for everything by what copies pictures.
+    // QPainter takes an empty part of a picture for the whole of it.
     if (border > 0)
         all.push_back({0, 0, border, false});
     for (int to = border; to < length - border; to += NinePatch::tile)

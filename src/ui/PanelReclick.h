@@ -24,7 +24,7 @@ public:
     void panelLostFocus(QPoint pointer);
 
     /// Whether a click on the icon, with the pointer there, is what the panel lost the focus to: that was a
-    /// moment ago, and the pointer has hardly moved since. Of what was lost once, this is true once.
+    /// moment ago, and the pointer has hardly moved since. True once for each loss.
     [[nodiscard]] bool takesLostFocus(QPoint pointer);
 
 private:

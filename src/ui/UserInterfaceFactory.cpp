@@ -5,7 +5,7 @@
 
 #include <QQuickWindow>
 
-/// The library's one symbol; see `createUserInterfaceSymbol`.
+/// What the program looks up in the library; see `createUserInterfaceSymbol`.
 extern "C" Q_DECL_EXPORT keyvora::UserInterface *
 keyvoraCreateUserInterface(const keyvora::UserInterface::Context &context)
 {
