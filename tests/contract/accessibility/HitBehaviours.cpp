@@ -191,6 +191,22 @@ Behaviour crowdedBar()
     return behaviourOf(objects);
 }
 
+/// Its windows have thousands of menus that hang on no bar.
+Behaviour looseMenus()
+{
+    Objects objects = ordinary();
+    constexpr int ofEachWindow = 2000;
+    for (int i = 0; i < 2 * ofEachWindow; ++i) {
+        const std::string window = i < ofEachWindow ? "/frame2" : "/frame3";
+        const std::string path = "/loose" + std::to_string(i);
+        objects[window].role = frame;
+        objects[window].children.push_back(path);
+        objects[path] = {menu, {}, "Menu", ""};
+    }
+    objects[root].children.insert(objects[root].children.end(), {"/frame2", "/frame3"});
+    return behaviourOf(objects);
+}
+
 /// Has no answer to the first question for what is at a point.
 Behaviour silentAtFirst()
 {
@@ -215,6 +231,7 @@ const std::map<std::string_view, Behaviour (*)()> hitBehaviours{
     {"submenu-cycle-of-qt", submenuCycleOfQt},
     {"endless-submenus", endlessSubmenus},
     {"crowded-bar", crowdedBar},
+    {"loose-menus", looseMenus},
     {"silent-at-first", silentAtFirst},
 };
 

@@ -149,6 +149,14 @@ TEST(MenuHitTest, AsksAThousandMenusOfACrowdedBar)
     EXPECT_EQ(press.asked["GetRole"], 5003);
 }
 
+TEST(MenuHitTest, AsksAThousandMenusThatHangOnNoBar)
+{
+    const Press press = pressOnFirstEntry(u"loose-menus"_s);
+    EXPECT_EQ(press.title, u"New"_s);
+    // The bar is one of them; then the menu that hangs on it.
+    EXPECT_EQ(press.asked["GetAccessibleAtPoint"], 1001);
+}
+
 TEST(MenuHitTest, FindsCommandsOfOthersBesideAnApplicationThatNeverAnswers)
 {
     const StrangeApplication silent(u"silent"_s);

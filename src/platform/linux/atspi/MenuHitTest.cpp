@@ -6,6 +6,7 @@
 #include "platform/linux/atspi/BusPipeline.h"
 #include "platform/linux/atspi/MenuTreeReader.h"
 
+#include <algorithm>
 #include <memory>
 #include <utility>
 
@@ -16,7 +17,8 @@ namespace {
 /// No menu of a person's is nested deeper.
 constexpr int maximumDepth = 12;
 constexpr qsizetype maximumVisited = 5000;
-constexpr qsizetype maximumMenus = 1000;
+/// Of those that are given, and of those below them.
+constexpr size_t maximumMenus = 1000;
 
 } // namespace
 
@@ -31,6 +33,7 @@ QString MenuHitTest::run(const std::vector<QByteArray> &containers)
 {
     m_bus.run(); // what was asked before, such as the toolkit's name, decides what is asked now
     m_level = containers;
+    m_level.resize(std::min(m_level.size(), maximumMenus));
     QString title;
     for (int depth = 0; depth < maximumDepth && !m_level.empty(); ++depth) {
         if (!title.isEmpty())
@@ -109,7 +112,7 @@ void MenuHitTest::readChild(const QByteArray &path)
 
 void MenuHitTest::addToNextLevel(const QByteArray &menu)
 {
-    if (m_menus.size() >= maximumMenus || m_menus.contains(menu))
+    if (m_menus.size() >= static_cast<qsizetype>(maximumMenus) || m_menus.contains(menu))
         return;
     m_menus.insert(menu);
     m_nextLevel.push_back(menu);

@@ -52,7 +52,7 @@ private:
     AtspiApplication &m_application;
     QPoint m_position;
     QSet<QByteArray> m_visited;
-    QSet<QByteArray> m_menus;            ///< that are or were in a level
+    QSet<QByteArray> m_menus;            ///< found below those that were given
     std::vector<QByteArray> m_level;     ///< the menus to ask
     std::vector<QByteArray> m_nextLevel; ///< the menus that open from those
     std::vector<std::shared_ptr<Candidate>> m_candidates;
