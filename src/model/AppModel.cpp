@@ -37,6 +37,7 @@ AppModel::AppModel(Dependencies dependencies, QObject *parent)
     }
     restore();
     connect(&m_services.workspace, &Workspace::applicationActivated, this, &AppModel::applicationActivated);
+    connect(&Localization::shared(), &Localization::languageChanged, this, &AppModel::updateImportMessage);
     if (m_services.makeSmartObserver) {
         m_smartObserver = m_services.makeSmartObserver([self = QPointer(this)](const QString &title) {
             if (self)

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "model/DisplayableShortcut.h"
+#include "model/MenuImportError.h"
 #include "model/MenuUseObserver.h"
 #include "model/ModifierFilter.h"
 #include "model/PracticeDraw.h"
@@ -248,7 +249,10 @@ private:
     void importNextApp(const std::shared_ptr<RunningAppsImport> &import);
     void finishImport(const RunningAppsImport &import);
     void addImported(const QList<Shortcut> &shortcuts);
-    void setImportMessage(const QString &message);
+    void setImportError(MenuImportError error);
+    /// The words are asked for again when the language changes.
+    void setImportOutcome(std::function<QString()> inWords);
+    void updateImportMessage();
     void setImportProgress(const std::optional<ImportProgress> &progress);
     void beginImport();
     void endImport();
@@ -266,7 +270,8 @@ private:
     bool m_learningModeEnabled = false;
     std::optional<Shortcut> m_latestSuggestion;
     QString m_latestSuggestionReason;
-    std::optional<QString> m_importMessage;
+    std::function<QString()> m_importOutcome;
+    std::optional<QString> m_importMessage; ///< the same in the current language
     int m_importsUnderWay = 0;
     std::optional<ImportProgress> m_importProgress;
     int m_practiceIndex = 0;

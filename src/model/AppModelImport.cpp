@@ -81,10 +81,16 @@ QString outcomeWithoutRoom()
                                        u"There is no room for more shortcuts."_s);
 }
 
-QString outcomeOfFrontmost(qsizetype count, const ImportRoom &room, const QString &appName)
+QString outcomeWithoutApplications()
+{
+    return Localization::shared().text(u"Nenašel jsem žádné spuštěné aplikace k importu."_s,
+                                       u"No running apps found to import from."_s);
+}
+
+QString outcomeOfFrontmost(qsizetype count, bool isFull, const QString &appName)
 {
     const Localization &localization = Localization::shared();
-    if (count == 0 && room.hasRefused())
+    if (count == 0 && isFull)
         return outcomeWithoutRoom();
     if (count == 0)
         return localization.text(u"V menu nebyly nalezeny žádné nové zkratky."_s,
@@ -93,10 +99,10 @@ QString outcomeOfFrontmost(qsizetype count, const ImportRoom &room, const QStrin
         .arg(QString::number(count), appName);
 }
 
-QString outcomeOfRunningApps(qsizetype count, const ImportRoom &room, int contributors)
+QString outcomeOfRunningApps(qsizetype count, bool isFull, int contributors)
 {
     const Localization &localization = Localization::shared();
-    if (count == 0 && room.hasRefused())
+    if (count == 0 && isFull)
         return outcomeWithoutRoom();
     if (count == 0)
         return localization.text(u"V žádné spuštěné aplikaci nebyly nalezeny nové zkratky."_s,
@@ -155,21 +161,23 @@ void AppModel::importFrontmostMenu()
 {
     beginImport();
     if (!m_activeAppPID) {
-        setImportMessage(errorDescription(MenuImportError::application));
+        setImportError(MenuImportError::application);
         endImport();
         return;
     }
     const auto finish = [this, appName = m_activeApp](const QFuture<MenuImport> &import) {
         const MenuImport outcome = resultOr(import, MenuImport(MenuImportError::menu));
         if (const auto *error = std::get_if<MenuImportError>(&outcome)) {
-            setImportMessage(errorDescription(*error));
+            setImportError(*error);
         } else {
             QSet<QString> signatures;
             addSignatures(signatures, allShortcuts());
             ImportRoom room(backup());
             const QList<Shortcut> added = unknown(std::get<QList<Shortcut>>(outcome), signatures, room);
             addImported(added);
-            setImportMessage(outcomeOfFrontmost(added.size(), room, appName));
+            setImportOutcome([count = added.size(), isFull = room.hasRefused(), appName] {
+                return outcomeOfFrontmost(count, isFull, appName);
+            });
         }
         endImport();
     };
@@ -180,7 +188,7 @@ void AppModel::importAllRunningApps()
 {
     whenFinished(m_services.accessibility.isTrusted(), this, [this](const QFuture<bool> &isTrusted) {
         if (!resultOr(isTrusted, false)) {
-            setImportMessage(errorDescription(MenuImportError::permission));
+            setImportError(MenuImportError::permission);
             m_services.accessibility.requestTrust();
             return;
         }
@@ -217,11 +225,13 @@ void AppModel::importNextApp(const std::shared_ptr<RunningAppsImport> &import)
 void AppModel::finishImport(const RunningAppsImport &import)
 {
     if (import.applications.isEmpty()) {
-        setImportMessage(Localization::shared().text(u"Nenašel jsem žádné spuštěné aplikace k importu."_s,
-                                                     u"No running apps found to import from."_s));
+        setImportOutcome(&outcomeWithoutApplications);
     } else {
         addImported(import.batch);
-        setImportMessage(outcomeOfRunningApps(import.batch.size(), import.room, import.contributors));
+        setImportOutcome([count = import.batch.size(), isFull = import.room.hasRefused(),
+                          contributors = import.contributors] {
+            return outcomeOfRunningApps(count, isFull, contributors);
+        });
     }
     setImportProgress(std::nullopt);
     endImport();
@@ -235,9 +245,20 @@ void AppModel::addImported(const QList<Shortcut> &shortcuts)
         emit customShortcutsChanged();
 }
 
-void AppModel::setImportMessage(const QString &message)
+void AppModel::setImportError(MenuImportError error)
 {
-    if (assign(m_importMessage, std::optional(message)))
+    setImportOutcome([error] { return errorDescription(error); });
+}
+
+void AppModel::setImportOutcome(std::function<QString()> inWords)
+{
+    m_importOutcome = std::move(inWords);
+    updateImportMessage();
+}
+
+void AppModel::updateImportMessage()
+{
+    if (m_importOutcome && assign(m_importMessage, std::optional(m_importOutcome())))
         emit importMessageChanged();
 }
 

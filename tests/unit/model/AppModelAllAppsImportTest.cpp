@@ -44,6 +44,11 @@ TEST(AllAppsImport, SpeaksCzech)
     program.accessibility.setMenuBar(815, menuOf({menuItem(u"Nová věc"_s, u"n"_s)}));
     importAll(program);
     EXPECT_EQ(program.model().importMessage(), u"Importováno 1 zkratek z 1 aplikací."_s);
+    const QSignalSpy changes(&program.model(), &AppModel::importMessageChanged);
+    program.localization().setLanguage(AppLanguage::English);
+    EXPECT_EQ(changes.size(), 1);
+    EXPECT_EQ(program.model().importMessage(), u"Imported 1 shortcuts from 1 apps."_s);
+    program.localization().setLanguage(AppLanguage::Czech);
     importAll(program);
     EXPECT_EQ(program.model().importMessage(), u"V žádné spuštěné aplikaci nebyly nalezeny nové zkratky."_s);
     program.workspace.setRunning({{ourselves()}});
