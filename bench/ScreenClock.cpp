@@ -364,6 +364,7 @@ Clock::time_point lastFrame(Screen &screen, Clock::time_point since, millisecond
 {
     const auto end = since + patience;
     auto last = since;
+    screen.forgetFrames();
     while (Clock::now() < std::min(last + time, end)) {
         screen.handleEvents(last + time);
         if (screen.seen().frame)
